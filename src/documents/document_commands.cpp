@@ -1,0 +1,313 @@
+// SPDX-License-Identifier: MIT
+#include "documents/document_commands.h"
+
+#include "documents/code_access.h"
+#include "documents/code_box.h"
+#include "documents/document_file.h"
+#include "documents/paths.h"
+#include "documents/undo.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/text.h"
+#include "shell/commands.h"
+#include "shell/global.h"
+#include "shell/neighbours.h"
+
+namespace Documents {
+
+namespace {
+
+using Dialogs::Answer;
+
+constexpr int TypePanel = 1;
+constexpr int StatePanel = 2;
+constexpr int EncodingPanel = 8;
+
+const QString UnsavedQuestion =
+    QStringLiteral("Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?");
+
+const QString FileGroups = QStringLiteral(
+    "Internet-Seiten (*.htm;*.html)|*.htm;*.html|WAP-Seiten (*.wml)|*.wml|StyleSheets (*.css)|*.css|"
+    "Textdateien (*.txt)|*.txt|");
+const QString LastGroups = QStringLiteral("Scripte (*.js;*.vbs)|*.js;*.vbs|Alle Dateien (*.*)|*.*");
+const QString OpenFilter = QStringLiteral("Alle unterstützten Dateien "
+                                          "(*.htm;*.html;*.wml;*.css;*.bak;*.txt;*.js;*.vbs)|"
+                                          "*.htm;*.html;*.wml;*.css;*.bak;*.txt;*.js;*.vbs;*.wml|") +
+                           FileGroups + QStringLiteral("Backupdateien (*.bak)|*.bak|") + LastGroups;
+const QString ImportFilter = QStringLiteral("Alle unterstützten Dateien "
+                                            "(*.htm;*.html;*.wml;*.css;*.bak;*.txt;*.vbs;*.js)|"
+                                            "*.htm;*.html;*.wml;*.css;*.bak;*.txt;*.vbs;*.js|") +
+                             FileGroups + QStringLiteral("Backupdateien (*.bak)|*.bak|") + LastGroups;
+const QString SaveFilter = FileGroups + LastGroups;
+
+void TellError(const QString& text) { Dialogs::Tell(u"Fehler"_s, text, Dialogs::Icon::Critical); }
+
+void SetType(const QString& type, const QString& remark) {
+    if (type.isEmpty() && Global::AssistantOpen) Neighbours::RunAnimation(2, remark);
+    Global::DocType = type.isEmpty() ? u"Text"_s : type;
+    Neighbours::SetStatusPanel(TypePanel, DocumentFile::PanelText(Global::DocType));
+}
+
+void ShowFileCaption(const QString& path) {
+    Neighbours::SetMainCaption(u"%1 [%2]"_s.arg(Global::ProgramName, Global::FileNameOf(path)));
+}
+
+QString CurrentText() {
+    if (!Global::CodeWindowOpen) return Global::HeldSource;
+    const CodeBox* box = Neighbours::TheCodeBox();
+    return box ? box->Text() : Global::HeldSource;
+}
+
+void FailToOpen() {
+    // The text that was open stays in HeldSource when its window goes.
+    if (Global::CodeWindowOpen) Neighbours::UnloadWindow(u"Frm_Code"_s);
+    if (Global::BrowserOpen) Neighbours::UnloadWindow(u"Frm_Browser"_s);
+    TellError(u"Fehler beim Laden der Datei. Stellen Sie sicher, dass die Datei existiert und nicht geschützt ist."_s);
+}
+
+bool OpenPicture(const QString& path) {
+    auto picture = DocumentFile::LoadRaw(path);
+    if (!picture) return false;
+    Global::PicturePreview = true;
+    Neighbours::ActivateToolBar();
+    Neighbours::UnloadWindow(u"Frm_Code"_s);
+    // The bytes are kept as they are: a save must not take them for text.
+    Global::HeldSource = std::move(picture->text);
+    picture->format.lfOnly = false;
+    SetFormat(picture->format);
+    Neighbours::Browse(path);
+    SetType(u"IMG"_s, {});
+    return true;
+}
+
+void RefreshWindows() {
+    if (Global::DebuggerOpen) Neighbours::CheckSyntax();
+    if (Global::ProjectWindowOpen) Neighbours::SearchLinks();
+    if (Global::FormatSubClassOpen) Neighbours::UpdateClassList();
+    if (Global::AutoDebug) Neighbours::ShowDebugger();
+    if (Global::AutoProjectManager && !Global::ProjectWindowOpen) {
+        Neighbours::ShowProjectManager();
+        Neighbours::SearchLinks();
+    }
+}
+
+bool OpenText(const QString& path, bool preview) {
+    auto document = DocumentFile::Load(path);
+    CodeBox* box = document ? Neighbours::TheCodeBox() : nullptr;
+    if (!box) return false;
+    Global::PicturePreview = false;
+    box->SetText(document->text);
+    SetFormat(document->format);
+    Neighbours::ActivateToolBar();
+    if (preview && Text::UpperCase(Global::CurrentExtension).startsWith(u"HTM")) {
+        Neighbours::Browse(path);
+    } else {
+        Neighbours::FocusCode();
+    }
+    SetType(DocumentFile::TypeOnOpen(document->text, Global::CurrentExtension),
+            u"Huston, wir haben ein Problem. Der Dokumenttyp konnte nicht ermittelt werden. Die Datei wird als Text "
+            "geöffnet."_s);
+    RefreshWindows();
+    return true;
+}
+
+} // namespace
+
+void SetFormat(const CodePage::Format& format) {
+    Global::DocumentFormat = format;
+    Neighbours::SetStatusPanel(EncodingPanel, CodePage::Name(format));
+}
+
+bool AskToSave(const QString& title, SaveFirst save) {
+    if (!Global::DocChanged) return true;
+    switch (Dialogs::MsgBox({title, UnsavedQuestion, Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel})) {
+    case Answer::Yes: Menu_File_Save_Click(); return save == SaveFirst::MayFail || Global::SaveSucceeded;
+    case Answer::No: return true;
+    default: return false;
+    }
+}
+
+void OpenFile(const QString& path, bool& preview) {
+    Undo::UndoClear();
+    if (!Global::AutoPreView) preview = false;
+    Neighbours::TheCodeBox(); // loads Frm_Code if needed
+    Neighbours::HidePopupList();
+    Global::CurrentFile = path;
+    Global::CurrentExtension = Global::ExtensionOf(path);
+    Neighbours::UnloadWindow(u"Frm_Welcome"_s);
+    const bool picture = DocumentFile::IsPicture(Global::CurrentExtension);
+    if (picture ? !OpenPicture(path) : !OpenText(path, preview)) {
+        FailToOpen();
+        return;
+    }
+    ShowFileCaption(path);
+    Global::DocOpen = true;
+    Global::DocChanged = false;
+    Neighbours::SetStatusPanel(StatePanel, u"gespeichert"_s);
+    Neighbours::ActivateFunktions();
+}
+
+void OpenFile(const QString& path) {
+    bool preview = true;
+    OpenFile(path, preview);
+}
+
+void DropFile(const QString& path) {
+    if (AskToSave(u"Schließen"_s, SaveFirst::MustSucceed)) OpenFile(path);
+}
+
+void Menu_File_Open_Click() {
+    Neighbours::UnloadWindow(u"Frm_Welcome"_s);
+    if (!AskToSave(u"Datei öffnen"_s, SaveFirst::MayFail)) return;
+    const QString path = Dialogs::OpenFileDialog(u"Öffnen"_s, OpenFilter);
+    if (path.isEmpty()) return;
+    if (Global::ProjectWindowOpen) Neighbours::DeleteFileIndex();
+    OpenFile(path);
+}
+
+void Menu_File_Import() {
+    const QString path = Dialogs::OpenFileDialog(u"Importieren"_s, ImportFilter);
+    if (path.isEmpty()) return;
+    Global::DialogFile = path;
+    Undo::PushUndo();
+    const auto document = DocumentFile::Load(path);
+    CodeBox* box = document ? Neighbours::TheCodeBox() : nullptr;
+    if (!box) {
+        TellError(u"Fehler beim Laden der Datei."_s);
+        return;
+    }
+    QString text = document->text;
+    if (!text.isEmpty() && !text.endsWith(Text::LineBreak)) text += Text::LineBreak;
+    box->SetSelText(text);
+}
+
+namespace {
+
+// The text as it goes to disk. Tabs become 6 blanks in the box of a WML document and 3 in the held text; both
+// stand as designed.
+QString TextToWrite(bool wml) {
+    const bool lower = Commands::IsChecked(u"Menu_Tools_Option_2"_s);
+    QString text;
+    if (CodeBox* box = Global::CodeWindowOpen ? Neighbours::TheCodeBox() : nullptr) {
+        if (wml && box->Text().contains(u'\t')) {
+            const qsizetype caret = box->SelStart();
+            const qsizetype tabs = QStringView(box->Text()).first(caret).count(u'\t');
+            box->SetText(box->Text().replace(u'\t', u"      "_s));
+            box->SetSelStart(caret + 5 * tabs); // the caret stays at its character
+        }
+        text = box->Text();
+    } else {
+        text = Global::HeldSource;
+    }
+    if (lower && Global::DocType != u"IMG") CodeAccess::LowerCaseTags(text);
+    text = DocumentFile::TrimTail(text);
+    if (wml) text.replace(u'\t', u"   "_s);
+    return text;
+}
+
+void WriteDocument(bool refreshProject) {
+    const QString path = Global::CurrentFile;
+    const QString extension = Global::ExtensionOf(path);
+    const QString text = TextToWrite(extension == u"wml");
+    CodePage::Format format = Global::DocumentFormat;
+    if (!DocumentFile::Save(path, text, format)) {
+        TellError(
+            u"Fehler beim Speichern der Datei. Stellen Sie sicher, dass die Datei nicht schreibgeschützt ist."_s);
+        Global::CurrentFile.clear(); // the next save asks for a name
+        if (Global::ProjectWindowOpen) Neighbours::RefreshProject();
+        return;
+    }
+    SetFormat(format);
+    ShowFileCaption(path);
+    Global::LastFile = path;
+    Global::SaveSucceeded = Global::DocOpen = true;
+    Global::DocChanged = false;
+    Neighbours::SetStatusPanel(StatePanel, u"gespeichert"_s);
+    // There is no extension test here but for wml: saving a style sheet turns its type into "Text".
+    SetType(DocumentFile::TypeOnSave(text, extension),
+            u"Der Dokumenttyp konnte nicht ermittelt werden. Die Datei ist als Text geöffnet."_s);
+    if (refreshProject && Global::ProjectWindowOpen) Neighbours::SearchLinks();
+    if (Global::FormatSubClassOpen) Neighbours::UpdateClassList();
+    Neighbours::ActivateToolBar();
+    Neighbours::ActivateFunktions();
+}
+
+void Save(bool refreshProject) {
+    Global::SaveSucceeded = false;
+    if (Global::CurrentFile.isEmpty()) {
+        Menu_File_SaveAs();
+    } else {
+        WriteDocument(refreshProject);
+    }
+}
+
+} // namespace
+
+void Menu_File_Save_Click() { Save(true); }
+
+void FileSaveWithoutManager() { Save(false); }
+
+void Menu_File_SaveAs() {
+    Global::SaveSucceeded = false;
+    const QString path = Dialogs::SaveFileDialog(u"Speichern unter"_s, SaveFilter);
+    if (path.isEmpty()) return;
+    if (Files::CanRead(path)) {
+        const Answer answer = Dialogs::MsgBox(
+            {u"Speichern"_s, u"Eine Datei mit diesem Namen existiert bereits.\rSoll sie überschrieben werden?"_s,
+             Dialogs::Icon::Question, Dialogs::Buttons::YesNo, Answer::No});
+        if (answer != Answer::Yes) return;
+    }
+    Global::CurrentFile = path;
+    WriteDocument(true);
+}
+
+void SaveBackUp() {
+    CodePage::Format format = Global::DocumentFormat;
+    DocumentFile::Save(Global::CurrentFile + u".bak"_s, DocumentFile::TrimTail(CurrentText()), format);
+}
+
+void Menu_File_Close() {
+    Global::CloseSucceeded = false;
+    if (!AskToSave(u"Schließen"_s, SaveFirst::MustSucceed)) return;
+    Global::CloseDocument();
+    Global::CloseSucceeded = true;
+}
+
+namespace {
+QString RecoveryPath() { return Files::ProgramDirectory() + u"\\bckup.tmp"_s; }
+} // namespace
+
+void WriteRecoveryFile() {
+    CodePage::Format format = Global::DocumentFormat;
+    DocumentFile::Save(RecoveryPath(), CurrentText(), format);
+}
+
+void LoadRecoveryFile() {
+    const auto document = DocumentFile::Load(RecoveryPath());
+    CodeBox* box = document ? Neighbours::TheCodeBox() : nullptr;
+    if (!box) return;
+    box->SetText(document->text);
+    SetFormat(document->format);
+}
+
+bool RecoveryFileExists() { return Files::CanRead(RecoveryPath()); }
+
+} // namespace Documents
+
+namespace Global {
+
+void CloseDocument() {
+    CurrentFile.clear();
+    DocOpen = DocChanged = false;
+    for (const QString& window :
+         {u"Frm_Code"_s, u"Frm_Browser"_s, u"Frm_Color"_s, u"Frm_DeBug"_s, u"Frm_InsertStyle"_s, u"Frm_KCC"_s,
+          u"Frm_Search"_s, u"Frm_TagTools"_s, u"Frm_UmlCorrection"_s, u"Frm_Characters"_s, u"Frm_Events"_s,
+          u"Frm_ProjectManager"_s}) {
+        Neighbours::UnloadWindow(window);
+    }
+    DocChanged = false; // the windows that went may have touched the text
+    Neighbours::ActivateFunktions();
+    Neighbours::SetMainCaption({});
+}
+
+} // namespace Global

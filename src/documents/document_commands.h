@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+// The file side of the one document: open, import, save, backup, close.
+#pragma once
+
+#include "platform/code_page.h"
+
+#include <QString>
+
+namespace Documents {
+
+// What a document stands in on disk, and its name in the status bar.
+void SetFormat(const CodePage::Format& format);
+
+enum class SaveFirst { MustSucceed, MayFail };
+// Asks under `title` whether unsaved changes are to be saved, and saves them. Returns whether the command may go
+// on: yes without changes and for the answer no, never for cancel, and after saving as told by `save`.
+bool AskToSave(const QString& title, SaveFirst save);
+
+// Loads a file. `preview` asks for the browser view; it becomes false where the settings do not want it.
+void OpenFile(const QString& path, bool& preview);
+void OpenFile(const QString& path); // with the wish for the preview
+// A file dropped on the main window.
+void DropFile(const QString& path);
+
+void Menu_File_Open_Click();
+void Menu_File_Import();
+void Menu_File_Save_Click();
+// As save, without refreshing the project view, for callers inside it.
+void FileSaveWithoutManager();
+void Menu_File_SaveAs();
+void Menu_File_Close();
+void SaveBackUp();
+
+// Writes the code box's text to bckup.tmp in the program directory; does nothing on failure.
+void WriteRecoveryFile();
+// Reads that file back into the code box; does nothing on failure.
+void LoadRecoveryFile();
+bool RecoveryFileExists();
+
+} // namespace Documents
+
+namespace Global {
+
+// Forgets the document and unloads all its windows.
+void CloseDocument();
+
+} // namespace Global

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "documents/new_documents.h"
+
+#include "documents/code_box.h"
+#include "documents/document_commands.h"
+#include "documents/templates.h"
+#include "documents/undo.h"
+#include "platform/literals.h"
+#include "shell/global.h"
+#include "shell/neighbours.h"
+
+namespace Documents {
+
+namespace {
+
+struct Kind {
+    QString type;
+    QString panel; // a new WML document shows "WML", an opened one "WAP": both are meant
+    QString caption;
+    QString text;
+    bool plainText = false; // no change to lose, and no helper windows
+};
+
+void Create(const Kind& kind) {
+    Undo::UndoClear();
+    Neighbours::UnloadWindow(u"Frm_Welcome"_s);
+    Global::DocType = kind.type;
+    Neighbours::SetStatusPanel(1, kind.panel);
+    Global::HeldSource.clear();
+    CodeBox* box = Neighbours::TheCodeBox();
+    Neighbours::HidePopupList();
+    if (box) {
+        box->SetText({});
+        if (!kind.text.isEmpty()) box->SetText(kind.text);
+    }
+    Neighbours::SetMainCaption(u"%1 [%2]"_s.arg(Global::ProgramName, kind.caption));
+    Global::DocOpen = true;
+    Global::CurrentFile.clear();
+    Global::DocChanged = !kind.plainText; // an empty text file closes without a question
+    if (kind.plainText) Neighbours::SetStatusPanel(2, u"Bereit"_s);
+    SetFormat({});
+    Neighbours::ActivateFunktions();
+    Neighbours::ActivateToolBar();
+    if (Global::ProjectWindowOpen) Neighbours::SearchLinks();
+    if (Global::FormatSubClassOpen) Neighbours::UpdateClassList();
+    Neighbours::UnloadWindow(u"Frm_Browser"_s);
+    if (!kind.plainText) {
+        if (Global::AutoDebug) Neighbours::ShowDebugger();
+        if (Global::AutoProjectManager) {
+            Neighbours::ShowProjectManager();
+            Neighbours::SearchLinks();
+        }
+    }
+    Neighbours::FocusCode();
+}
+
+void AskAndThen(void (*create)()) {
+    if (AskToSave(u"Neue Datei"_s, SaveFirst::MustSucceed)) create();
+}
+
+} // namespace
+
+void CreateNewHTMLFile() { Create({u"HTML"_s, u"HTML"_s, u"HTML"_s, Templates::Html()}); }
+
+void CreateNewXHTMLFile() { Create({u"XHTML"_s, u"XHTML"_s, u"XHTML"_s, Templates::Xhtml()}); }
+
+void CreateNewWMLFile() {
+    Create({u"WML"_s, u"WML"_s, u"WML"_s, Templates::Wml()});
+    if (!Global::AssistantOpen) return;
+    Neighbours::RunAnimation(
+        1, u"Sie erstellen eine WAP-Seite. Beachten Sie, dass Sie nicht einfach alle HTML-Regeln übernehmen dürfen. "
+           "Die Syntax für WAP-Sites ist etwas anders. Sie können eine WAP-Site testen, indem Sie im Menü 'Ansicht' "
+           "auf 'Vorschau' & 'WAP-Simulation' klicken."_s);
+}
+
+void CreateNewJavaScript() { Create({u"JS"_s, u"JavaScript"_s, u"JavaScript"_s, {}}); }
+
+void CreateNewTextFile() { Create({u"Text"_s, u"Text"_s, u"Textdatei"_s, {}, true}); }
+
+void Menu_File_NewPage() { AskAndThen(CreateNewHTMLFile); }
+void Menu_File_NewXHTMLFile() { AskAndThen(CreateNewXHTMLFile); }
+void Menu_File_NewWAPPage() { AskAndThen(CreateNewWMLFile); }
+void Menu_File_NewFile() { AskAndThen(CreateNewTextFile); }
+
+void Menu_File_NewDocument() {
+    AskAndThen([] { Neighbours::RunTool(u"Frm_Welcome"_s); });
+}
+
+} // namespace Documents

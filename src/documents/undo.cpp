@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "documents/undo.h"
+
+#include "documents/code_box.h"
+#include "documents/text_history.h"
+#include "platform/literals.h"
+#include "platform/text.h"
+#include "shell/commands.h"
+#include "shell/global.h"
+#include "shell/neighbours.h"
+
+namespace Undo {
+
+namespace {
+
+TextHistory& Ring() {
+    static TextHistory ring;
+    return ring;
+}
+
+void EnableUndo(bool enabled) {
+    Commands::SetEnabled(u"Menu_Edit_Undo"_s, enabled);
+    Commands::SetEnabled(u"ToolBar_Undo"_s, enabled);
+}
+
+void EnableRedo(bool enabled) {
+    Commands::SetEnabled(u"Menu_Edit_Redo"_s, enabled);
+    Commands::SetEnabled(u"ToolBar_Redo"_s, enabled);
+}
+
+void WriteText(CodeBox& box, const QString& text) {
+    const qsizetype caret = box.SelStart();
+    box.SetText(text);
+    box.SetSelStart(caret);
+}
+
+} // namespace
+
+void PushUndo() {
+    const CodeBox* box = Neighbours::TheCodeBox();
+    if (!box) return;
+    Ring().Push(box->Text(), Depth);
+    UndoTouched = u"-"_s;
+    EnableUndo(true);
+    EnableRedo(false);
+}
+
+void UndoStep() {
+    TextHistory& ring = Ring();
+    CodeBox* box = Neighbours::TheCodeBox();
+    if (!box || ring.Count() < 2) return;
+    const bool full = ring.Count() == Depth;
+    ring.Pop();
+    if (full) ring.RepeatOldest(); // place 64 keeps its value when the others move forward
+    Global::SkipUndoOnChange = true;
+    WriteText(*box, ring.Newest());
+    Global::SkipUndoOnChange = false;
+}
+
+void RedoStep() {
+    TextHistory& ring = Ring();
+    CodeBox* box = Neighbours::TheCodeBox();
+    if (!box || ring.Count() < Depth) {
+        EnableRedo(false);
+        return;
+    }
+    EnableRedo(true);
+    EnableUndo(true);
+    const QString present = box->Text();
+    const qsizetype caret = box->SelStart();
+    box->SetText(ring.At(Depth - 1));
+    ring.Push(present, Depth);
+    box->SetSelStart(caret);
+}
+
+void UndoClear() {
+    UndoTouched.clear();
+    Ring().Clear();
+    EnableUndo(false);
+}
+
+QString UndoRing(int place) {
+    if (place < 1 || place > Depth) throw RuntimeError("undo ring: no such place");
+    return place <= Ring().Count() ? Ring().At(place - 1) : FreeMarker;
+}
+
+} // namespace Undo

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "platform/code_page.h"
+
+#include "platform/literals.h"
+
+#include <QStringConverter>
+#include <algorithm>
+#include <array>
+
+namespace CodePage {
+
+namespace {
+
+// Bytes 0x80 to 0x9F of Windows-1252; the unassigned ones stand for the C1 control of their number.
+constexpr std::array<char16_t, 32> C1{
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+constexpr QByteArrayView Mark("\xEF\xBB\xBF", 3);
+
+bool IsAscii(const QByteArray& bytes) {
+    return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<uchar>(c) < 0x80; });
+}
+
+bool HasLoneLfOnly(QStringView text) { return text.contains(u'\n') && !text.contains(u'\r'); }
+
+} // namespace
+
+QString FromWindows1252(const QByteArray& bytes) {
+    QString text(bytes.size(), Qt::Uninitialized);
+    std::transform(bytes.begin(), bytes.end(), text.begin(), [](char c) {
+        const auto byte = static_cast<uchar>(c);
+        return QChar(byte >= 0x80 && byte < 0xA0 ? C1[byte - 0x80] : char16_t(byte));
+    });
+    return text;
+}
+
+int ByteOf(QChar character) {
+    const char16_t unit = character.unicode();
+    if (unit < 0x80 || (unit >= 0xA0 && unit < 0x100)) return unit;
+    const auto* hit = std::find(C1.begin(), C1.end(), unit);
+    return hit == C1.end() ? -1 : static_cast<int>(hit - C1.begin()) + 0x80;
+}
+
+bool FitsWindows1252(QStringView text) {
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return ByteOf(c) >= 0; });
+}
+
+QByteArray ToWindows1252(const QString& text) {
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    std::transform(text.begin(), text.end(), bytes.begin(), [](QChar c) {
+        const int byte = ByteOf(c);
+        return byte < 0 ? '?' : static_cast<char>(byte);
+    });
+    return bytes;
+}
+
+Decoded Decode(const QByteArray& bytes) {
+    Decoded result;
+    const bool mark = bytes.startsWith(Mark);
+    if (mark || !IsAscii(bytes)) {
+        QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless |
+                                                         QStringConverter::Flag::ConvertInitialBom);
+        const QByteArrayView body = mark ? QByteArrayView(bytes).sliced(Mark.size()) : QByteArrayView(bytes);
+        QString text = decoder.decode(body);
+        if (!decoder.hasError()) {
+            result.text = std::move(text);
+            result.format.encoding = Encoding::Utf8;
+            result.format.mark = mark;
+        }
+    }
+    // A file that begins with the mark but is no valid UTF-8 keeps every byte as Windows-1252.
+    if (result.format.encoding == Encoding::Windows1252) result.text = FromWindows1252(bytes);
+    result.format.lfOnly = HasLoneLfOnly(result.text);
+    return result;
+}
+
+QByteArray Encode(const QString& text, Format& format) {
+    QString body = text;
+    if (format.lfOnly) body.replace(u"\r\n"_s, u"\n"_s);
+    if (format.encoding == Encoding::Windows1252 && !FitsWindows1252(body)) format.encoding = Encoding::Utf8;
+    if (format.encoding == Encoding::Windows1252) return ToWindows1252(body);
+    QByteArray bytes = body.toUtf8();
+    if (format.mark) bytes.prepend(Mark);
+    return bytes;
+}
+
+QString Name(const Format& format) {
+    QString name = format.encoding == Encoding::Windows1252 ? u"Windows-1252"_s : u"UTF-8"_s;
+    if (format.mark) name += u" mit Marke"_s;
+    if (format.lfOnly) name += u" LF"_s;
+    return name;
+}
+
+} // namespace CodePage

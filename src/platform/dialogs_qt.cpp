@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "platform/dialogs_qt.h"
+
+#include "platform/files.h"
+#include "platform/literals.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QUrl>
+
+namespace Dialogs {
+
+namespace {
+
+QMessageBox::Icon QtIcon(Icon icon) {
+    switch (icon) {
+    case Icon::Critical: return QMessageBox::Critical;
+    case Icon::Question: return QMessageBox::Question;
+    case Icon::Exclamation: return QMessageBox::Warning;
+    case Icon::Information: return QMessageBox::Information;
+    case Icon::None: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons QtButtons(Buttons buttons) {
+    switch (buttons) {
+    case Buttons::YesNo: return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::YesNoCancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case Buttons::Ok: break;
+    }
+    return QMessageBox::Ok;
+}
+
+} // namespace
+
+QStringList QtFilters(const QString& filter) {
+    const QStringList parts = filter.split(u'|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QStringList patterns = parts[i + 1].split(u';', Qt::SkipEmptyParts);
+        patterns.removeDuplicates();
+        patterns.replaceInStrings(u"*.*"_s, u"*"_s); // "all files" has files without an extension too
+        filters << u"%1 (%2)"_s.arg(parts[i], patterns.join(u' '));
+    }
+    return filters;
+}
+
+Answer QtHandler::Ask(const Message& message) {
+    QMessageBox box(QtIcon(message.icon), message.title, QString(message.text).replace(u"\r\n"_s, u"\n"_s),
+                    QtButtons(message.buttons), QApplication::activeWindow());
+    box.setObjectName(u"MsgBox"_s);
+    box.setTextFormat(Qt::PlainText);
+    if (message.buttons != Buttons::Ok) {
+        box.setDefaultButton(message.preset == Answer::No ? QMessageBox::No : QMessageBox::Yes);
+    }
+    switch (box.exec()) {
+    case QMessageBox::Yes: return Answer::Yes;
+    case QMessageBox::No: return Answer::No;
+    case QMessageBox::Ok: return Answer::Ok;
+    default: break;
+    }
+    return message.buttons == Buttons::Ok      ? Answer::Ok
+           : message.buttons == Buttons::YesNo ? Answer::No
+                                               : Answer::Cancel;
+}
+
+QString QtHandler::AskText(const QString& prompt, const QString& title, const QString& preset) {
+    bool ok = false;
+    const QString text = QInputDialog::getText(QApplication::activeWindow(), title, prompt, QLineEdit::Normal,
+                                               preset, &ok);
+    return ok ? text : QString();
+}
+
+QString QtHandler::StartFolder() const {
+    const QString folder = m_startFolder ? m_startFolder() : QString();
+    return folder.isEmpty() ? m_lastFolder : folder;
+}
+
+QString QtHandler::ChooseFile(const FileQuestion& question, bool save) {
+    QFileDialog dialog(QApplication::activeWindow(), question.title);
+    dialog.setObjectName(u"Dialog"_s);
+    dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // the labels name the patterns themselves
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the program asks that itself
+    dialog.setNameFilters(QtFilters(question.filter));
+    if (const QString folder = StartFolder(); !folder.isEmpty()) dialog.setDirectory(folder);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    QString path = dialog.selectedFiles().constFirst();
+    m_lastFolder = QFileInfo(path).absolutePath();
+    // A name typed without an extension gets the first one of the chosen group.
+    if (save && QFileInfo(path).suffix().isEmpty()) {
+        const qsizetype group = dialog.nameFilters().indexOf(dialog.selectedNameFilter());
+        const QString pattern = question.filter.split(u'|').value(2 * group + 1).section(u';', 0, 0);
+        if (pattern.startsWith(u"*.") && pattern != u"*.*") path += pattern.mid(1);
+    }
+    return Files::FromSystem(path);
+}
+
+QString QtHandler::ChooseOpenFile(const FileQuestion& question) { return ChooseFile(question, false); }
+
+QString QtHandler::ChooseSaveFile(const FileQuestion& question) { return ChooseFile(question, true); }
+
+QString QtHandler::ChooseFolder(const QString& title) {
+    return Files::FromSystem(QFileDialog::getExistingDirectory(QApplication::activeWindow(), title, StartFolder()));
+}
+
+void QtHandler::Beep() { QApplication::beep(); }
+
+void QtHandler::OpenAddress(const QString& address) { QDesktopServices::openUrl(QUrl::fromUserInput(address)); }
+
+} // namespace Dialogs

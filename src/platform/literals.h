@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+using namespace Qt::Literals::StringLiterals;

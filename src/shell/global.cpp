@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "shell/global.h"
+
+#include "platform/events.h"
+#include "platform/files.h"
+#include "platform/literals.h"
+
+#include <QDir>
+
+namespace Global {
+
+void Wait(double seconds) { Events::Wait(seconds); }
+
+bool DirectoryExists(const QString& path) {
+    return Files::FolderExists(path) && QDir::setCurrent(Files::ToSystem(path));
+}
+
+bool UpdateLogExists() { return Files::CanRead(Files::ProgramFile(u"update.log"_s)); }
+
+void Reset() {
+    for (QString* text : {&CurrentFile, &DocType, &CurrentExtension, &HeldSource, &TextBeforeSelection,
+                          &TextAfterSelection, &DialogFile, &LastFile, &ProjectFiles, &WorkScreenSkin, &FTP_Address,
+                          &FTP_UserName, &KnownTagString, &NoCloseTagString, &WordChangeList}) {
+        text->clear();
+    }
+    for (bool* flag : {&DocOpen, &DocChanged, &SaveSucceeded, &CloseSucceeded, &PicturePreview, &SkipUndoOnChange,
+                       &AutoDebug, &AutoProjectManager, &AutoMaximize, &AutoPreView, &ShowDebugReport,
+                       &ListLinkErrors, &UseWindowsMenu, &ShowExternLinks, &DontShowNewUpdate, &StartPending,
+                       &SkinFileExists}) {
+        *flag = false;
+    }
+    DebugAccuracy = MaxLinkDeep = CurrentTip = FirstStart = 0;
+    DocumentFormat = {};
+    KeyCombos.fill({});
+    EventNameList.fill({});
+    TipList.fill({});
+    for (ToolPos* place : {&TagToolPos, &ColorToolPos, &KCCToolPos, &EventToolPos, &CharactersToolPos,
+                           &FormatSubClassPos, &NavigationPos, &LineZoomPos}) {
+        place->fill({});
+    }
+}
+
+} // namespace Global

@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: MIT
+// What each menu item does. Tool windows are shown by their name; the rest is here.
+#include "documents/code_access.h"
+#include "documents/document_commands.h"
+#include "documents/frm_code.h"
+#include "documents/new_documents.h"
+#include "documents/undo.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/literals.h"
+#include "shell/addresses.h"
+#include "shell/commands.h"
+#include "shell/edit_commands.h"
+#include "shell/frm_main.h"
+#include "shell/global.h"
+#include "shell/neighbours.h"
+
+#include <QHash>
+
+namespace {
+
+void Say(const QString& text) {
+    if (Global::AssistantOpen) Neighbours::RunAnimation(1, text);
+}
+
+// Flips the check mark of an item and returns the new state.
+bool Flip(const QString& name) {
+    Commands::SetChecked(name, !Commands::IsChecked(name));
+    return Commands::IsChecked(name);
+}
+
+void Menu_File_Browser() {
+    Documents::Menu_File_Close();
+    if (Global::CloseSucceeded) Neighbours::StartBrowser();
+}
+
+void Menu_Debug_Start() {
+    if (Global::DebuggerOpen) {
+        Neighbours::CheckSyntax();
+    } else {
+        Neighbours::ShowDebugger();
+    }
+}
+
+void Menu_Help_InWeb() {
+    Say(u"Von dieser Internetseite können Sie das neueste Update des Sorvane HTML Editor 3.0 herunterladen. Die "
+        "Zip-Datei entpacken Sie in das Verzeichnis des Editors."_s);
+    Dialogs::OpenAddress(Addresses::Support);
+}
+
+void Menu_Help_OnlineSupport() {
+    Say(u"Auf dieser Internetseite finden Sie Hilfe zum Sorvane HTML Editor 3.0."_s);
+    Dialogs::OpenAddress(Addresses::Support);
+}
+
+void Menu_Tools_Option() {
+    if (!Flip(u"Menu_Tools_Option_2"_s)) return;
+    Say(u"Sie haben eben 'Tags klein speichern' aktiviert. Beim Speichern werden alle gültigen Tags klein "
+        "geschrieben."_s);
+}
+
+void Menu_Tools_AutoUml() {
+    if (!Flip(u"Menu_Tools_AutoUml"_s)) return;
+    Say(u"Sie haben eben 'AutoUmlaut' aktiviert. Umlaute, die Sie schreiben, werden jetzt sofort umgewandelt: aus ä "
+        "wird ae, und wenn Sie ein & davor schreiben, wird aus &ä &auml;."_s);
+}
+
+void Menu_View_CloseTools() {
+    for (const QString& tool : {u"Frm_Color"_s, u"Frm_KCC"_s, u"Frm_TagTools"_s, u"Frm_Events"_s,
+                                u"Frm_Characters"_s, u"Frm_FormatSubClass"_s}) {
+        Neighbours::UnloadWindow(tool);
+    }
+}
+
+void Menu_View_ShowJavaScriptBar() {
+    Shared<Frm_Code>().ScriptBarShown = Flip(u"Menu_View_ShowJavaScriptBar"_s);
+    Shared<Frm_Code>().ActivateToolBar();
+    Neighbours::ActivateFunktions();
+}
+
+void Menu_File_RestoreFile() {
+    if (!Documents::AskToSave(u"Datei öffnen"_s, Documents::SaveFirst::MustSucceed)) return;
+    Documents::CreateNewTextFile();
+    Documents::LoadRecoveryFile();
+    Global::DocChanged = true;
+}
+
+void OpenAddress(const QString& address) { Dialogs::OpenAddress(address); }
+
+using Handlers = QHash<QString, std::function<void()>>;
+
+void AddDocumentHandlers(Handlers& handlers) {
+    using namespace Documents;
+    handlers.insert({{u"Menu_File_NewXHTMLFile"_s, Menu_File_NewXHTMLFile},
+                     {u"Menu_File_NewPage"_s, Menu_File_NewPage},
+                     {u"Menu_File_NewWAPPage"_s, Menu_File_NewWAPPage},
+                     {u"Menu_File_NewFile"_s, Menu_File_NewFile},
+                     {u"Menu_File_NewDocument"_s, Menu_File_NewDocument},
+                     {u"Menu_File_Browser"_s, Menu_File_Browser},
+                     {u"Menu_File_Open"_s, Menu_File_Open_Click},
+                     {u"Menu_File_Import"_s, Menu_File_Import},
+                     {u"Menu_File_Close"_s, Documents::Menu_File_Close},
+                     {u"Menu_File_Save"_s, Menu_File_Save_Click},
+                     {u"Menu_File_SaveAs"_s, Menu_File_SaveAs},
+                     {u"Menu_File_SaveBackUp"_s, SaveBackUp},
+                     {u"Menu_File_RestoreFile"_s, Menu_File_RestoreFile}});
+}
+
+void AddEditHandlers(Handlers& handlers) {
+    using namespace EditCommands;
+    handlers.insert({{u"Menu_Edit_Undo"_s, Undo::UndoStep},
+                     {u"Menu_Edit_Redo"_s, Undo::RedoStep},
+                     {u"Menu_Edit_Cut"_s, Menu_Edit_Cut_Click},
+                     {u"Menu_Edit_Copy"_s, Menu_Edit_Copy_Click},
+                     {u"Menu_Edit_Paste"_s, Menu_Edit_Paste_Click},
+                     {u"Menu_Edit_Delete"_s, Menu_Edit_Delete},
+                     {u"Menu_Edit_SelectAll"_s, Menu_Edit_SelectAll},
+                     {u"Menu_Edit_EditString_UCase"_s, Menu_Edit_EditString_UCase},
+                     {u"Menu_Edit_EditString_LCase"_s, Menu_Edit_EditString_LCase},
+                     {u"Menu_Edit_EditString_Turn"_s, Menu_Edit_EditString_Turn},
+                     {u"Menu_Edit_ChangeDigitSystem_Hex"_s, Menu_Edit_ChangeDigitSystem_Hex},
+                     {u"Menu_Edit_ChangeDigitSystem_Okt"_s, Menu_Edit_ChangeDigitSystem_Okt},
+                     {u"Menu_Edit_ChangeDigitSystem_Bin"_s, Menu_Edit_ChangeDigitSystem_Bin},
+                     {u"Menu_Edit_CalculateText_ASCII"_s, Menu_Edit_CalculateText_ASCII},
+                     {u"Menu_Edit_CalculateText_Average"_s, Menu_Edit_CalculateText_Average},
+                     {u"Menu_Edit_CalculateText_Count"_s, Menu_Edit_CalculateText_Count},
+                     {u"Menu_Edit_CalculateText_Total"_s, Menu_Edit_CalculateText_Total},
+                     {u"Menu_Script_ManipulateNumbers"_s, Menu_Script_ManipulateNumbers},
+                     {u"Menu_Insert_Date"_s, Menu_Insert_Date},
+                     {u"Menu_Insert_Time"_s, Menu_Insert_Time},
+                     {u"Menu_Insert_FileName"_s, Menu_Insert_FileName},
+                     {u"Menu_Insert_CloseTag"_s, Menu_Insert_CloseTag},
+                     {u"Menu_Tools_UCaseTags"_s, Menu_Tools_UCaseTags},
+                     {u"Menu_Tools_LCaseTags"_s, Menu_Tools_LCaseTags},
+                     {u"Menu_Menu_Code_Cut"_s, Menu_Edit_Cut_Click},
+                     {u"Menu_Menu_Code_Copy"_s, Menu_Edit_Copy_Click},
+                     {u"Menu_Menu_Code_Paste"_s, Menu_Edit_Paste_Click}});
+}
+
+void AddHelpHandlers(Handlers& handlers) {
+    handlers.insert({{u"Menu_Help_InWeb"_s, Menu_Help_InWeb},
+                     {u"Menu_Help_OnlineSupport"_s, Menu_Help_OnlineSupport},
+                     {u"Menu_Help_Internet_Webspace"_s, [] { OpenAddress(Addresses::Webspace); }},
+                     {u"Menu_Help_Internet_Domains"_s, [] { OpenAddress(Addresses::Domains); }},
+                     {u"Menu_Help_Internet_Tools"_s, [] { OpenAddress(Addresses::Tools); }},
+                     {u"Menu_Help_Internet_WAP"_s, [] { OpenAddress(Addresses::WAP); }},
+                     {u"Menu_Help_MailToVelonar"_s, [] { OpenAddress(Addresses::Mail); }},
+                     {u"Menu_Help_MailBug"_s, [] { OpenAddress(Addresses::MailBug); }},
+                     {u"Menu_Help_Info"_s, [] { Neighbours::RunTool(u"Frm_Info"_s); }},
+                     {u"Menu_Help_Assistant"_s,
+                      [] { Neighbours::ShowAssistant(Flip(u"Menu_Help_Assistant"_s)); }}});
+}
+
+void AddViewHandlers(Handlers& handlers) {
+    handlers.insert({{u"Menu_View_Code"_s, [] { Neighbours::FocusCode(); }},
+                     {u"Menu_View_CloseTools"_s, Menu_View_CloseTools},
+                     {u"Menu_View_ShowJavaScriptBar"_s, Menu_View_ShowJavaScriptBar},
+                     {u"Menu_Debug_Start"_s, Menu_Debug_Start},
+                     {u"Menu_Debug_HTML"_s, [] { Flip(u"Menu_Debug_HTML"_s); }},
+                     {u"Menu_Debug_CSS"_s, [] { Flip(u"Menu_Debug_CSS"_s); }},
+                     {u"Menu_Debug_JavaScript"_s, [] { Flip(u"Menu_Debug_JavaScript"_s); }},
+                     {u"Menu_Tools_Option_2"_s, Menu_Tools_Option},
+                     {u"Menu_Tools_AutoUml"_s, Menu_Tools_AutoUml},
+                     {u"Menu_Tools_Tramlink"_s,
+                      [] { OpenAddress(Files::ToSystem(Files::ProgramFile(u"Tramlink.exe"_s))); }}});
+}
+
+} // namespace
+
+void Frm_Main::RunCommand(const QString& name) {
+    static const Handlers handlers = [] {
+        Handlers all;
+        AddDocumentHandlers(all);
+        AddEditHandlers(all);
+        AddHelpHandlers(all);
+        AddViewHandlers(all);
+        return all;
+    }();
+    if (name == u"Menu_File_Exit") return static_cast<void>(close());
+    if (name == u"Menu_Window_MaximizeAll") return Menu_Window_MaximizeAll();
+    if (name == u"Menu_Window_MinimizeAll") return Menu_Window_MinimizeAll();
+    if (name == u"Menu_Window_SetH") return Menu_Window_SetH();
+    if (name == u"Menu_Window_SetV") return Menu_Window_SetV();
+    const auto handler = handlers.constFind(name);
+    if (handler != handlers.constEnd()) {
+        (*handler)();
+    } else {
+        Neighbours::RunTool(name); // answered once its window is built
+    }
+}

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#include "shell/neighbours.h"
+
+namespace Neighbours {
+
+void Reset() {
+    const auto unwire = [](auto&... calls) { (calls.AnsweredBy({}), ...); };
+    unwire(ReadMainPlace, MainSize, AttachToCode, ActivateFunktions, SetMainCaption, SetStatusPanel, AddMenuAttribute, UnloadMenuAttributes,
+           ShowPleaseWait, SetWorkProgress, TheCodeBox, FocusCode, ShowCodeWindow,
+           ScriptBarShown, ActivateToolBar, HidePopupList, WatchTagForAssistant, SubstituteUmlauts, CodeKeyDown,
+           CodeKeyUp, CodeMouseDown, CodeMouseMove, CodeLostFocus, RunAnimation, ShowAssistant, AssistantWidth,
+           LayoutAssistant, CheckSyntax, ShowDebugger, DebuggerHeight, LayoutDebugger, ShowProjectManager,
+           ProjectManagerWidth, LayoutProjectManager, SearchLinks, DeleteFileIndex, RefreshProject, UpdateClassList,
+           Browse, StartBrowser, StartWAPBrowser, LayoutBrowser, FitBrowser, PlaceBrowser, CheckForUpdate, PopupCodeMenu, InsertAttribute, UnloadWindow, RunTool);
+}
+
+} // namespace Neighbours

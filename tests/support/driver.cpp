@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "support/driver.h"
+
+#include "documents/frm_code.h"
+#include "platform/literals.h"
+#include "platform/window.h"
+#include "shell/commands.h"
+#include "shell/frm_main.h"
+#include "shell/global.h"
+#include "shell/main_menu.h"
+#include "shell/wiring.h"
+
+#include <QApplication>
+#include <QTimer>
+
+namespace Driver {
+
+QWidget* FindControl(const QString& name) {
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+        if (top->objectName() == name) return top;
+        if (auto* control = top->findChild<QWidget*>(name)) return control;
+    }
+    QTest::qFail(qPrintable(u"no control "_s + name), __FILE__, __LINE__);
+    return nullptr;
+}
+
+void Trigger(const QString& name) {
+    QAction* action = Shared<Frm_Main>().Commands()->Action(name);
+    if (!action || !action->isEnabled()) {
+        QTest::qFail(qPrintable(u"command missing or disabled: "_s + name), __FILE__, __LINE__);
+        return;
+    }
+    action->trigger();
+    QCoreApplication::processEvents();
+}
+
+bool IsEnabled(const QString& name) {
+    const QAction* action = Shared<Frm_Main>().Commands()->Action(name);
+    return action && action->isEnabled();
+}
+
+void Click(const QString& name) {
+    if (auto* button = Find<QAbstractButton>(name)) button->click();
+    QCoreApplication::processEvents();
+}
+
+void TypeCode(const QString& text) {
+    QTest::keyClicks(Shared<Frm_Code>().TextBox, text);
+    QCoreApplication::processEvents();
+}
+
+void PressCode(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(Shared<Frm_Code>().TextBox, key, modifiers);
+    QCoreApplication::processEvents();
+}
+
+void InModal(const QString& dialog, std::function<void(QWidget*)> inside) {
+    auto* timer = new QTimer;
+    timer->setInterval(5);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, dialog, inside, tries = 0]() mutable {
+        QWidget* modal = QApplication::activeModalWidget();
+        const bool found = modal && modal->objectName() == dialog;
+        if (!found && ++tries < 400) return;
+        timer->stop();
+        timer->deleteLater();
+        if (found) {
+            inside(modal);
+        } else {
+            QTest::qFail(qPrintable(u"the dialog never opened: "_s + dialog), __FILE__, __LINE__);
+        }
+    });
+    timer->start();
+}
+
+RunningProgram::RunningProgram() {
+    Wiring::WireWindows();
+    Shared<Frm_Main>();
+    Global::StartPending = false; // neither a start dialog nor a file of the command line
+    QCoreApplication::processEvents();
+}
+
+RunningProgram::~RunningProgram() { Wiring::UnloadAll(); }
+
+} // namespace Driver
