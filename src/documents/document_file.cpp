@@ -40,7 +40,9 @@ QString TrimTail(const QString& text) {
     for (const QChar c : QStringView(text).sliced(last)) {
         if (c.unicode() >= 33) return text;
     }
-    return text.first(last);
+    const QString cut = text.first(last);
+    // Of several empty lines at the end exactly one is lost, the line end that saving adds counted in.
+    return cut.endsWith(Text::LineBreak) ? cut.chopped(Text::LineBreak.size()) : cut;
 }
 
 bool IsPicture(const QString& extension) {

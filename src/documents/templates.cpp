@@ -11,7 +11,7 @@ namespace Templates {
 namespace {
 
 QStringList MetaTags(const PageInfo& page, const QString& indent, const QString& close) {
-    const auto meta = [&](const QString& name, const QString& content) {
+    const auto meta = [&](const QString& name, const QString& content) -> QString {
         return indent + u"<meta name=\"%1\" content=\"%2\"%3"_s.arg(name, content, close);
     };
     return {meta(u"description"_s, page.description), meta(u"author"_s, page.author),

@@ -18,7 +18,7 @@ std::optional<QString> ReadList(const QString& fileName) { return Files::ReadPro
 
 std::optional<QString> TokenReader::Next() {
     const auto isLineEnd = [](QChar c) { return c == u'\r' || c == u'\n'; };
-    while (m_at < m_text.size() && m_text[m_at] == u' ') ++m_at;
+    while (m_at < m_text.size() && m_text.at(m_at) == u' ') ++m_at;
     if (m_at >= m_text.size()) return std::nullopt;
     QString token;
     if (m_text[m_at] == u'"') {
@@ -118,7 +118,8 @@ std::optional<QString> ReadLinesJoined(const QString& fileName) {
     const auto text = ReadList(fileName);
     if (!text) return std::nullopt;
     QString joined;
-    for (const QString& line : Files::Lines(*text)) joined += line + u' ';
+    joined.reserve(text->size());
+    for (const QString& line : Files::Lines(*text)) joined.append(line).append(u' ');
     return joined;
 }
 
@@ -127,7 +128,7 @@ QString ReadScriptObjects() {
     QString joined;
     if (!text) return joined;
     for (const QString& line : Files::Lines(*text)) {
-        if (line.startsWith(u"<js-")) joined += line + u' ';
+        if (line.startsWith(u"<js-")) joined.append(line).append(u' ');
     }
     return joined;
 }

@@ -13,7 +13,9 @@ qsizetype Find(QStringView text, QStringView needle, qsizetype start) {
 
 qsizetype FindBack(QStringView text, QStringView needle, qsizetype start) {
     if (start < 1) throw RuntimeError("find back: start below 1");
-    return text.first(std::min(start, text.size())).lastIndexOf(needle) + 1;
+    // The last place that a hit may begin at is named: without one, Qt 6.4 looks one character beyond the view.
+    const qsizetype last = std::min(start, text.size()) - needle.size();
+    return last < 0 ? 0 : text.lastIndexOf(needle, last) + 1;
 }
 
 QStringView Middle(QStringView text, qsizetype start, qsizetype length) {

@@ -8,6 +8,7 @@
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/literals.h"
+#include "preview/preview_commands.h"
 #include "shell/addresses.h"
 #include "shell/commands.h"
 #include "shell/edit_commands.h"
@@ -146,6 +147,7 @@ void AddHelpHandlers(Handlers& handlers) {
                      {u"Menu_Help_Internet_WAP"_s, [] { OpenAddress(Addresses::WAP); }},
                      {u"Menu_Help_MailToVelonar"_s, [] { OpenAddress(Addresses::Mail); }},
                      {u"Menu_Help_MailBug"_s, [] { OpenAddress(Addresses::MailBug); }},
+                     {u"Menu_Help_Index"_s, [] { Neighbours::RunTool(u"Frm_Help"_s); }},
                      {u"Menu_Help_Info"_s, [] { Neighbours::RunTool(u"Frm_Info"_s); }},
                      {u"Menu_Help_Assistant"_s,
                       [] { Neighbours::ShowAssistant(Flip(u"Menu_Help_Assistant"_s)); }}});
@@ -153,7 +155,16 @@ void AddHelpHandlers(Handlers& handlers) {
 
 void AddViewHandlers(Handlers& handlers) {
     handlers.insert({{u"Menu_View_Code"_s, [] { Neighbours::FocusCode(); }},
+                     {u"Menu_View_Browser_Once"_s, Preview::Menu_View_Browser_Once},
+                     {u"Menu_View_Browser_Temp"_s, Preview::Menu_View_Browser_Temp},
+                     {u"Menu_View_Browser_Project"_s, Preview::Menu_View_Browser_Project},
+                     {u"Menu_View_Browser_WAP"_s, Preview::Menu_View_Browser_WAP},
+                     {u"Menu_View_Navigation"_s, [] { Neighbours::RunTool(u"Frm_Navigation"_s); }},
                      {u"Menu_View_CloseTools"_s, Menu_View_CloseTools},
+                     {u"Menu_View_Zoom"_s, [] { Neighbours::RunTool(u"Frm_LineZoom"_s); }},
+                     {u"Menu_Menu_Code_Zoom"_s, [] { Neighbours::RunTool(u"Frm_LineZoom"_s); }},
+                     {u"Menu_Tools_KeyCombo"_s, [] { Neighbours::RunTool(u"Frm_KeyCombo"_s); }},
+                     {u"Menu_Tools_Options"_s, [] { Neighbours::RunTool(u"Frm_Options"_s); }},
                      {u"Menu_View_ShowJavaScriptBar"_s, Menu_View_ShowJavaScriptBar},
                      {u"Menu_Debug_Start"_s, Menu_Debug_Start},
                      {u"Menu_Debug_HTML"_s, [] { Flip(u"Menu_Debug_HTML"_s); }},

@@ -11,7 +11,7 @@ void Reset() {
            CodeKeyUp, CodeMouseDown, CodeMouseMove, CodeLostFocus, RunAnimation, ShowAssistant, AssistantWidth,
            LayoutAssistant, CheckSyntax, ShowDebugger, DebuggerHeight, LayoutDebugger, ShowProjectManager,
            ProjectManagerWidth, LayoutProjectManager, SearchLinks, DeleteFileIndex, RefreshProject, UpdateClassList,
-           Browse, StartBrowser, StartWAPBrowser, LayoutBrowser, FitBrowser, PlaceBrowser, CheckForUpdate, PopupCodeMenu, InsertAttribute, UnloadWindow, RunTool);
+           Browse, StartBrowser, StartWAPBrowser, LayoutBrowser, FitBrowser, PlaceBrowser, GenerateWAPPreview, ReturnIndexFile, CheckForUpdate, PopupCodeMenu, InsertAttribute, UnloadWindow, RunTool);
 }
 
 } // namespace Neighbours

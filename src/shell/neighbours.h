@@ -92,6 +92,7 @@ inline Neighbour<void()> LayoutProjectManager;
 inline Neighbour<void()> SearchLinks;     // Frm_ProjectManager
 inline Neighbour<void()> DeleteFileIndex; // Frm_ProjectManager: empties its list
 inline Neighbour<void()> RefreshProject;  // Frm_ProjectManager: refreshes its list
+inline Neighbour<QString()> ReturnIndexFile; // Frm_ProjectManager: path of the project's index page
 inline Neighbour<void()> UpdateClassList; // Frm_FormatSubClass
 inline Neighbour<void(const QString&)> Browse; // Frm_Browser: to the front, navigates to the path
 inline Neighbour<void()> StartBrowser;         // browsing without a document
@@ -99,6 +100,8 @@ inline Neighbour<void()> StartWAPBrowser;      // its counterpart for the WAP si
 inline Neighbour<void()> LayoutBrowser;
 inline Neighbour<void(bool)> FitBrowser; // whether it is to be held to the main window's client area
 inline Neighbour<void(int, int, int, int)> PlaceBrowser; // left, top, width, height in twips
+// WAPBrowser: copies and converts the current page's site for the preview; returns whether that was done.
+inline Neighbour<bool()> GenerateWAPPreview;
 inline Neighbour<void()> CheckForUpdate; // looks for a newer version; shows its status on the splash
 
 // Ends a window's life by its name; does nothing when it is not loaded. Answered by the start.

@@ -11,6 +11,7 @@
 #include "shell/wiring.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QTimer>
 
 namespace Driver {
@@ -45,7 +46,14 @@ void Click(const QString& name) {
 }
 
 void TypeCode(const QString& text) {
-    QTest::keyClicks(Shared<Frm_Code>().TextBox, text);
+    // key by key, as the window system delivers them; Qt Test itself types only ASCII
+    for (const QChar character : text) {
+        const int key = character.toUpper().unicode();
+        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, character == u'\n' ? int(Qt::Key_Return) : key, Qt::NoModifier, character);
+            QCoreApplication::sendEvent(Shared<Frm_Code>().TextBox, &event);
+        }
+    }
     QCoreApplication::processEvents();
 }
 

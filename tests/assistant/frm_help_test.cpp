@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "assistant/frm_help.h"
+
+#include "platform/literals.h"
+#include "shell/wiring.h"
+#include "support/driver.h"
+#include "support/program_folder.h"
+#include "support/scripted_dialogs.h"
+#include "support/test_registry.h"
+
+#include <QWebEnginePage>
+#include <QWebEngineView>
+
+class FrmHelp : public QObject {
+    Q_OBJECT
+
+    // Clicks into the band of the page that the link fills.
+    static void Follow(QWebEngineView* view, int band) {
+        QTest::mouseClick(view->focusProxy(), Qt::LeftButton, {}, QPoint(60, 50 + 100 * band));
+    }
+
+private slots:
+    void showsItsPagesAndSendsTheRestOutside() {
+        const ProgramFolder folder;
+        const QByteArray style = "<style>body { margin: 0 } a { display: block; height: 100px }</style>";
+        folder.Write(u"support/index.htm"_s, "<title>Hilfe</title>" + style +
+                                                 "<a href=zwei.htm>2</a>"
+                                                 "<a href='http://www.example.org/a?b=c%20d'>web</a>");
+        folder.Write(u"support/zwei.htm"_s, "<title>Zwei</title>" + style +
+                                                "<a target=_blank href=index.htm>1</a>"
+                                                "<a href='mailto:a@example.org'>mail</a>"
+                                                "<a target=_blank href='http://www.example.org/'>web</a>");
+        ScriptedDialogs dialogs;
+        Driver::RunningProgram program;
+        Driver::Trigger(u"Menu_Help_Index"_s);
+        QVERIFY(Shared<Frm_Help>().isVisible());
+        QCOMPARE(Shared<Frm_Help>().windowTitle(), u"Sorvane HTML Editor 3.0 Hilfe"_s);
+        auto* view = Driver::Find<QWebEngineView>(u"Browser"_s);
+        const auto shows = [view](const QString& title) {
+            const bool there = QTest::qWaitFor([&] { return view->title() == title; }, 30000);
+            QTest::qWait(500); // the page is painted a moment later, and only then it can be clicked
+            return there;
+        };
+        const auto sends = [&](int band, const QString& address) {
+            dialogs.ExpectAddress(address);
+            Follow(view, band);
+            return QTest::qWaitFor([&] { return dialogs.Finished(); }, 10000);
+        };
+        QVERIFY(shows(u"Hilfe"_s));
+        QCOMPARE(view->size(), Shared<Frm_Help>().size());
+        QVERIFY(sends(1, u"http://www.example.org/a?b=c%20d"_s));
+        QCOMPARE(view->title(), u"Hilfe"_s);
+        Follow(view, 0);
+        QVERIFY(shows(u"Zwei"_s));
+        QVERIFY(sends(1, u"mailto:a@example.org"_s));
+        QVERIFY(sends(2, u"http://www.example.org/"_s));
+        Follow(view, 0); // a link into a window of its own
+        QVERIFY(shows(u"Hilfe"_s));
+
+        Shared<Frm_Help>().close();
+        QVERIFY(!Loaded<Frm_Help>());
+    }
+};
+
+REGISTER_TEST(FrmHelp);
+#include "frm_help_test.moc"

@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: MIT
+// One contract for every code box: the one on screen and the one without.
+#include "documents/code_box.h"
+
+#include "documents/text_buffer.h"
+#include "documents/txt_code.h"
+#include "platform/text.h"
+#include "support/test_registry.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QRandomGenerator>
+
+class CodeBoxContract : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<CodeBox> Make(bool screen, std::function<void()> change = {}) {
+        if (!screen) {
+            auto box = std::make_unique<TextBuffer>();
+            box->change = change;
+            return box;
+        }
+        auto box = std::make_unique<Txt_Code>();
+        box->resize(700, 400);
+        box->events.change = change;
+        return box;
+    }
+    static void BothKinds() {
+        QTest::addColumn<bool>("screen");
+        QTest::newRow("screen") << true;
+        QTest::newRow("buffer") << false;
+    }
+
+private slots:
+    void replacesAndSelects_data() { BothKinds(); }
+    void replacesAndSelects() {
+        QFETCH(bool, screen);
+        int changes = 0;
+        const auto box = Make(screen, [&] { ++changes; });
+        box->SetText(u"eins\nzwei\rdrei"_s);
+        QCOMPARE(box->Text(), u"eins\r\nzwei\r\ndrei"_s);
+        QCOMPARE(box->SelStart(), 0);
+        QCOMPARE(changes, 1);
+        box->SetSelStart(6);
+        box->SetSelLength(4);
+        QCOMPARE(box->SelText(), u"zwei"_s);
+        box->SetSelText(u"2\n"_s);
+        QCOMPARE(box->Text(), u"eins\r\n2\r\n\r\ndrei"_s);
+        QCOMPARE(box->SelStart(), 9);
+        QCOMPARE(box->SelLength(), 0);
+        QCOMPARE(changes, 2);
+        box->SetSelText({});
+        QCOMPARE(changes, 2); // nothing over nothing
+        box->SetSelLength(2);
+        box->SetSelText({});
+        QCOMPARE(box->Text(), u"eins\r\n2\r\ndrei"_s);
+        box->SetText(box->Text());
+        QCOMPARE(changes, 4); // a whole text counts even if it is the same
+        box->SetText({});
+        QCOMPARE(box->Text(), QString());
+        QVERIFY(!Attempt([&] { box->SetSelStart(-1); }));
+        QVERIFY(!Attempt([&] { box->SetSelLength(-1); }));
+        box->SetSelStart(99);
+        QCOMPARE(box->SelStart(), 0);
+    }
+
+    void splitsALineBreak_data() { BothKinds(); }
+    void splitsALineBreak() {
+        QFETCH(bool, screen);
+        const auto box = Make(screen);
+        box->SetText(u"a\r\nb\r\nc"_s);
+        box->SetSelStart(2); // between CR and LF
+        QCOMPARE(box->SelStart(), 2);
+        box->SetSelText(u"x"_s);
+        QCOMPARE(box->Text(), u"a\r\nx\r\nb\r\nc"_s);
+        QCOMPARE(box->SelStart(), 4);
+        box->SetText(u"a\r\nb\r\nc"_s);
+        box->SetSelStart(2);
+        box->SetSelLength(3); // "\nb\r"
+        QCOMPARE(box->SelText(), u"\nb\r"_s);
+        box->SetSelText(u"-"_s);
+        QCOMPARE(box->Text(), u"a\r\n-\r\nc"_s);
+        QCOMPARE(box->SelStart(), 4);
+    }
+
+    void keepsEveryCharacter_data() { BothKinds(); }
+    void keepsEveryCharacter() {
+        QFETCH(bool, screen);
+        const auto box = Make(screen);
+        QString odd = u"a\u00A0b\u2028c\u2029d\uFDD0e\uFDD1f\uFFFCg\t\u0001\uFEFF\U0001F600\u00ADz"_s;
+        odd += QChar(0);
+        odd += u"end";
+        box->SetText(odd);
+        QCOMPARE(box->Text(), odd);
+        box->SetSelStart(odd.size());
+        box->SetSelText(odd);
+        QCOMPARE(box->Text(), QString(odd + odd));
+        box->SetSelStart(0);
+        box->SetSelLength(odd.size());
+        QCOMPARE(box->SelText(), odd);
+    }
+
+    // Random edits end in the same text and the same selection in both boxes.
+    void boxesAgree() {
+        QRandomGenerator random(11);
+        TextBuffer plain;
+        Txt_Code screen;
+        const QStringList pieces{u"a"_s, u"\n"_s, u"\r\n"_s, u"xyz"_s, QString(), u"\r"_s, u"ü\u2029"_s, u"b\nc\n"_s};
+        for (int round = 0; round < 3000; ++round) {
+            const int what = random.bounded(20);
+            const qsizetype start = random.bounded(int(plain.Text().size()) + 1);
+            const qsizetype length = random.bounded(6);
+            const QString piece = pieces[random.bounded(pieces.size())];
+            for (CodeBox* box : {static_cast<CodeBox*>(&plain), static_cast<CodeBox*>(&screen)}) {
+                if (what == 0) {
+                    box->SetText(piece.repeated(3) + box->Text().left(200));
+                    continue;
+                }
+                box->SetSelStart(start);
+                box->SetSelLength(length);
+                box->SetSelText(piece);
+            }
+            QCOMPARE(screen.Text(), plain.Text());
+            QCOMPARE(screen.SelStart(), plain.SelStart());
+            QCOMPARE(screen.SelLength(), plain.SelLength());
+        }
+        QVERIFY(plain.Text().size() > 20);
+    }
+
+    void copiesNothingByReading() {
+        Txt_Code box;
+        box.SetText(QString(1000, u'x'));
+        QCOMPARE(box.Text().constData(), box.Text().constData());
+    }
+
+    void tellsVisualLines() {
+        Txt_Code box;
+        box.resize(400, 200);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        // how many columns fit is asked of the layout, which rounds in its own way
+        box.SetText(QString(500, u'x'));
+        const auto columns = int(box.LineIndex(1));
+        QVERIFY(columns > 20);
+        box.SetText(u"kurz\n"_s + QString(columns * 2 + 5, u'x') + u"\nende");
+        const qsizetype end = box.Text().size();
+        QCOMPARE(box.LineFromChar(0), 0);
+        QCOMPARE(box.LineFromChar(6), 1);
+        QCOMPARE(box.LineFromChar(6 + columns + 1), 2);
+        QCOMPARE(box.LineFromChar(end), 4); // the long line counts as three
+        QCOMPARE(box.LineIndex(4), end - 4);
+        QCOMPARE(box.LineIndex(1), 6);
+        QCOMPARE(box.LineIndex(2), 6 + columns);
+        box.SetText(u"a\nb\n"_s);
+        QCOMPARE(box.LineFromChar(6), 2); // behind the last line end
+        QCOMPARE(box.LineIndex(2), 6);
+    }
+
+    void takesWhatIsTypedAndPasted() {
+        Txt_Code box;
+        QList<QPair<int, int>> keys;
+        box.events.keyDown = [&](int key, int shift) { keys << qMakePair(key, shift); };
+        box.show();
+        QTest::keyClicks(&box, u"ab"_s);
+        keys.clear();
+        QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
+        QTest::keyClick(&box, Qt::Key_Tab);
+        QTest::keyClick(&box, Qt::Key_5, Qt::ControlModifier);
+        QTest::keyClick(&box, Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(box.Text(), u"ab\r\n\t "_s);
+        QVERIFY(keys.contains(qMakePair(13, 1)));
+        QVERIFY(keys.contains(qMakePair(9, 0)));
+        QVERIFY(keys.contains(qMakePair(53, 2)));
+        QVERIFY(keys.contains(qMakePair(32, 2)));
+        QGuiApplication::clipboard()->setText(u"x\u00A0y\nz"_s);
+        box.paste();
+        QCOMPARE(box.Text(), u"ab\r\n\t x\u00A0y\r\nz"_s);
+        box.selectAll();
+        box.copy();
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"ab\n\t x\u00A0y\nz"_s);
+        box.cut();
+        QCOMPARE(box.Text(), QString());
+        box.undo();
+        QCOMPARE(box.Text(), u"ab\r\n\t x\u00A0y\r\nz"_s);
+    }
+};
+
+REGISTER_TEST_AS(CodeBox, CodeBoxContract);
+#include "code_box_test.moc"

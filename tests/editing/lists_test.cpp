@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "editing/lists.h"
+
+#include "platform/files.h"
+#include "platform/literals.h"
+#include "platform/text.h"
+#include "shell/global.h"
+#include "support/program_folder.h"
+#include "support/test_registry.h"
+
+class ListsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void readsTokens() {
+        Lists::TokenReader reader(u"a,  b c ,\"x, y\",\r\nd\r\n\r\ne,,f"_s);
+        QStringList tokens;
+        while (const auto token = reader.Next()) tokens << *token;
+        QCOMPARE(tokens, (QStringList{u"a"_s, u"b c "_s, u"x, y"_s, u"d"_s, {}, u"e"_s, {}, u"f"_s}));
+    }
+
+    void buildsTheTagString() {
+        const ProgramFolder folder(ProgramFolder::Content::Empty);
+        folder.Write(u"taglist.lst"_s, "a\r\nb\r\n");
+        QVERIFY(Lists::LoadTagList());
+        QCOMPARE(Global::KnownTagString, u"-a-/a-b-/b"_s);
+        QVERIFY(Lists::IsKnownTag(u"A"_s) && Lists::IsKnownTag(u"/a"_s));
+        QVERIFY(!Lists::IsKnownTag(u"/b"_s)); // the closing form of the last name is meant to be unknown
+    }
+
+    void readsBlocksInTokenMode() {
+        const ProgramFolder folder(ProgramFolder::Content::Empty);
+        folder.Write(u"attribute.lst"_s, "<x-b- y, <e-\r\n<n-noclosetags-,\r\nbr, hr,\r\nimg,\r\n<e-\r\n"
+                                         "<s-events-, onclick, onload, <e-\r\n<n-noclosetags-, br, <e-\r\n");
+        QVERIFY(Lists::LoadNoCloseTags());
+        QCOMPARE(Global::NoCloseTagString, u"ßbrß"_s); // the last block wins
+        Lists::LoadEventNames();
+        QCOMPARE(Global::EventNameList[0], u"2"_s);
+        QCOMPARE(Global::EventNameList[2], u"onload"_s);
+        folder.Write(u"attribute.lst"_s, "<n-noclosetags-, br");
+        QVERIFY(!Lists::LoadNoCloseTags()); // runs into the end
+        QByteArray many = "<s-events-,";
+        for (int i = 1; i <= 120; ++i) many += "e" + QByteArray::number(i) + ",";
+        folder.Write(u"attribute.lst"_s, many + "<e-");
+        Lists::LoadEventNames();
+        QCOMPARE(Global::EventNameList[0], u"100"_s);
+        QCOMPARE(Global::EventNameList[100], u"e100"_s);
+    }
+
+    void readsWordBlocks() {
+        const ProgramFolder folder(ProgramFolder::Content::Empty);
+        folder.Write(u"wordchange.lst"_s, "skipped, <w-, left, right, <e-\r\n<w-, rot, gr\xFCn");
+        QVERIFY(Lists::LoadWordChange());
+        QCOMPARE(Global::WordChangeList, u"<wßleftßrightß<e- <wßrotßgrünß<e- "_s);
+        folder.Write(u"wordchange.lst"_s, "<w-");
+        QVERIFY(!Lists::LoadWordChange());
+    }
+
+    void findsEntriesOfABlock_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("entries");
+        QTest::newRow("block") << u"<t-td- align, width, <e- "_s << u"TD"_s << QStringList{u"align"_s, u"width"_s};
+        QTest::newRow("last without comma") << u"<t-td- align, width <e- "_s << u"td"_s << QStringList{u"align"_s};
+        QTest::newRow("over lines") << u"<t-td- align, width, <e- <t-tr- x, <e-"_s << u"tr"_s << QStringList{u"x"_s};
+        QTest::newRow("no end") << u"<t-td- align, width,"_s << u"td"_s << QStringList{u"align"_s, u"width"_s};
+        QTest::newRow("empty block") << u"<t-td- <e- a,"_s << u"td"_s << QStringList{};
+    }
+    void findsEntriesOfABlock() {
+        QFETCH(QString, text);
+        QFETCH(QString, name);
+        QTEST(Lists::BlockEntries(text, Lists::BlockStart(text, name)), "entries");
+        QCOMPARE(Lists::BlockStart(text, u"none"_s), 0);
+    }
+
+    void findsHelp() {
+        const QString help = u"<h-b- Fette Schrift. <e- <h-TABLE- Eine Tabelle. <e- <h-x-"_s;
+        QCOMPARE(Lists::HelpText(help, u"table"_s).value_or(QString()), u"Eine Tabelle. "_s);
+        QVERIFY(!Lists::HelpText(help, u"i"_s));
+        QVERIFY(!Lists::HelpText(help, u"x"_s)); // cut off
+    }
+
+    void decodesTokens() {
+        QCOMPARE(Lists::DecodeListToken(u"a#mns#b"_s, u"ß"_s), u"a#mns#b"_s); // kept as it is
+        QCOMPARE(Lists::DecodeListToken(u"a#mns#b#mns#c"_s, u"#mns#"_s), u"a-b-c"_s);
+    }
+
+    void missingFilesAreTold() {
+        const ProgramFolder folder(ProgramFolder::Content::Empty);
+        QVERIFY(!Lists::LoadTagList() && !Lists::LoadNoCloseTags() && !Lists::LoadWordChange());
+        QVERIFY(!Lists::ReadLinesJoined(u"assistant.hlp"_s));
+        Lists::LoadEventNames();
+        QVERIFY(Lists::ReadScriptObjects().isEmpty());
+    }
+
+    // The files as they ship.
+    void shippedListsAnswer() {
+        const ProgramFolder folder;
+        QVERIFY(Lists::LoadTagList() && Lists::LoadNoCloseTags() && Lists::LoadWordChange());
+        Lists::LoadEventNames();
+        for (const QString& tag : {u"html"_s, u"/table"_s, u"frameset"_s, u"card"_s, u"article"_s, u"svg"_s, u"math"_s,
+                                   u"!doctype"_s, u"?xml"_s, u"dialog"_s}) {
+            QVERIFY2(Lists::IsKnownTag(tag), qPrintable(tag));
+        }
+        for (const QString& tag : {u"br"_s, u"IMG"_s, u"!DOCTYPE"_s, u"?xml"_s, u"meta"_s}) {
+            QVERIFY2(Lists::NeedsNoClosing(tag), qPrintable(tag));
+        }
+        QVERIFY(!Lists::NeedsNoClosing(u"p"_s) && !Lists::IsKnownTag(u"glitzer"_s));
+        const QString last = Global::KnownTagString.section(u"-/"_s, -1);
+        QVERIFY2(Lists::NeedsNoClosing(last), "the closing form of the last name is unknown");
+        QVERIFY(Global::EventNameList[0].toInt() > 20);
+
+        const QString attributes = Lists::ReadLinesJoined(u"attribute.lst"_s).value_or(QString());
+        const auto entries = [&](const QString& name) {
+            return Lists::BlockEntries(attributes, Lists::BlockStart(attributes, name));
+        };
+        QVERIFY(entries(u"img"_s).contains(u"alt"_s) && entries(u"td"_s).contains(u"colspan"_s));
+        QVERIFY(entries(u"a"_s).contains(u"href"_s) && entries(u"s"_s).contains(u"title"_s));
+        const QString objects = Lists::ReadScriptObjects();
+        QVERIFY(objects.count(u"<js-") >= 40);
+        QVERIFY(Lists::BlockEntries(objects, Lists::BlockStart(objects, u"document"_s)).contains(u"*getElementById"_s));
+        QVERIFY(Global::WordChangeList.count(u"<wß") >= 60);
+        // every known tag has its help
+        const QString help = Lists::ReadLinesJoined(u"assistant.hlp"_s).value_or(QString());
+        const QString tags = Files::ReadProgramText(Files::ProgramFile(u"taglist.lst"_s)).value_or(QString());
+        for (const QString& tag : Files::Lines(tags)) QVERIFY2(Lists::HelpText(help, tag), qPrintable(tag));
+    }
+};
+
+REGISTER_TEST_AS(Lists, ListsTest);
+#include "lists_test.moc"

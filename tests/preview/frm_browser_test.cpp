@@ -1,0 +1,294 @@
+// SPDX-License-Identifier: MIT
+#include "preview/frm_browser.h"
+
+#include "documents/document_commands.h"
+#include "documents/frm_code.h"
+#include "platform/literals.h"
+#include "platform/mdi_child.h"
+#include "preview/frm_navigation.h"
+#include "shell/frm_main.h"
+#include "shell/global.h"
+#include "shell/neighbours.h"
+#include "support/driver.h"
+#include "support/program_folder.h"
+#include "support/scripted_dialogs.h"
+#include "support/test_registry.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMdiSubWindow>
+#include <QSignalSpy>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QWebEngineView>
+#include <csignal>
+
+namespace {
+
+constexpr int Patience = 30000; // milliseconds; the first page has to start the engine
+
+// A web server on this computer that answers every request with a page titled "Netz" and counts its callers.
+class WebServer : public QTcpServer {
+public:
+    WebServer() {
+        listen(QHostAddress::LocalHost);
+        connect(this, &QTcpServer::newConnection, this, [this] {
+            while (QTcpSocket* caller = nextPendingConnection()) {
+                ++callers;
+                connect(caller, &QTcpSocket::readyRead, caller, [caller] {
+                    caller->readAll();
+                    caller->write("HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\n\r\n"
+                                  "<title>Netz</title>");
+                    caller->disconnectFromHost();
+                });
+            }
+        });
+    }
+    QString Address() const { return u"http://127.0.0.1:%1/x"_s.arg(serverPort()); }
+    int callers = 0;
+};
+
+} // namespace
+
+// The real view, in the real main window.
+class FrmBrowser : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<ProgramFolder> m_folder;
+    std::unique_ptr<Driver::RunningProgram> m_program;
+    std::unique_ptr<ScriptedDialogs> m_dialogs;
+
+    // Writes a page, opens it and shows it.
+    void Preview(const QByteArray& page, const QString& name = u"seite.htm"_s) {
+        Documents::OpenFile(m_folder->Write(name, page));
+        Driver::Trigger(u"Menu_View_Browser_Once"_s);
+    }
+    QString Caption() const { return Shared<Frm_Browser>().windowTitle(); }
+    QWebEnginePage* Page() const { return Driver::Find<QWebEngineView>(u"Browser"_s)->page(); }
+    // What an expression of the page's script comes to.
+    QString Evaluate(const QString& script) const {
+        QString result;
+        bool answered = false;
+        Page()->runJavaScript(script, [&](const QVariant& value) {
+            result = value.toString();
+            answered = true;
+        });
+        if (!QTest::qWaitFor([&] { return answered; }, Patience)) return u"no answer"_s;
+        return result;
+    }
+    bool WaitForTitle(const QString& title) const {
+        return QTest::qWaitFor([&] { return Caption() == u"HTML Vorschau - "_s + title; }, Patience);
+    }
+
+private slots:
+    void init() {
+        m_folder = std::make_unique<ProgramFolder>();
+        m_dialogs = std::make_unique<ScriptedDialogs>();
+        m_program = std::make_unique<Driver::RunningProgram>();
+        Global::AutoDebug = Global::AutoProjectManager = false;
+    }
+    void cleanup() {
+        m_program.reset();
+        m_dialogs.reset();
+        m_folder.reset();
+    }
+
+    void showsPagesAndGoesBack() {
+        QVERIFY(!Loaded<Frm_Browser>()); // the engine starts with the first preview
+        m_folder->Write(u"bild.png"_s, "no picture");
+        Preview("<title>Eins</title><a id=l href='zwei.htm'>x</a>");
+        m_folder->Write(u"zwei.htm"_s, "<title>Zwei</title>");
+        QVERIFY2(WaitForTitle(u"Eins"_s), qPrintable(Caption()));
+        QVERIFY(Global::BrowserOpen && Driver::IsEnabled(u"Menu_View_Navigation"_s));
+
+        Driver::Trigger(u"Menu_View_Navigation"_s);
+        QVERIFY(Global::NavigationBarOpen);
+        auto* url = Driver::Find<QComboBox>(u"Cmb_Url"_s);
+        Evaluate(u"document.getElementById('l').click()"_s);
+        QVERIFY(WaitForTitle(u"Zwei"_s));
+        QTRY_COMPARE_WITH_TIMEOUT(url->currentText(), m_folder->System(u"zwei.htm"_s), Patience);
+        Driver::Click(u"Tlb_Navigation_Back_Button"_s);
+        QVERIFY(WaitForTitle(u"Eins"_s));
+        Driver::Click(u"Tlb_Navigation_Next_Button"_s);
+        QVERIFY(WaitForTitle(u"Zwei"_s));
+
+        // unsaved text shows in a copy, encoded as the document
+        Neighbours::FocusCode();
+        Shared<Frm_Code>().TextBox->SetSelText(u"<title>Größe</title>"_s);
+        Driver::Trigger(u"Menu_View_Browser_Temp"_s);
+        QVERIFY(WaitForTitle(u"Größe"_s));
+        QVERIFY(!m_folder->Read(u"seite.htm"_s).contains("Gr"));
+
+        // a page changed on disk shows at the next preview of the same file
+        Driver::Trigger(u"Menu_View_Browser_Once"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(url->currentText(), m_folder->System(u"seite.htm"_s), Patience);
+        Shared<Frm_Browser>().parentWidget()->close();
+        QVERIFY(!Global::BrowserOpen && !Global::NavigationBarOpen && !Loaded<Frm_Navigation>());
+    }
+
+    void refusesTheNetworkUntilTheUserAsksForIt() {
+        WebServer server;
+        Preview("<title>Eins</title><img src='" + server.Address().toLatin1() + "'><a id=l href='" +
+                server.Address().toLatin1() + "'>x</a><iframe src='" + server.Address().toLatin1() + "'></iframe>");
+        QVERIFY(WaitForTitle(u"Eins"_s));
+        Driver::Trigger(u"Menu_View_Navigation"_s);
+        Evaluate(u"document.getElementById('l').click()"_s);
+        QVERIFY(WaitForTitle(u"Nicht geladen"_s));
+        QTRY_COMPARE_WITH_TIMEOUT(Driver::Find<QComboBox>(u"Cmb_Url"_s)->currentText(), server.Address(), Patience);
+        m_dialogs->ExpectAddress(server.Address());
+        Evaluate(u"document.getElementById('open').click()"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(m_dialogs->Finished(), Patience);
+        Driver::Click(u"Tlb_Navigation_Back_Button"_s);
+        QVERIFY(WaitForTitle(u"Eins"_s));
+        Evaluate(u"location = '%1'"_s.arg(server.Address())); // a script gets no further than a link
+        QVERIFY(WaitForTitle(u"Nicht geladen"_s));
+        QCOMPARE(server.callers, 0);
+
+        auto* url = Driver::Find<QComboBox>(u"Cmb_Url"_s);
+        url->setEditText(server.Address());
+        QTest::keyClick(url, Qt::Key_Return);
+        QVERIFY(WaitForTitle(u"Netz"_s));
+        QVERIFY(server.callers > 0);
+    }
+
+    void browsesWithoutADocument() {
+        WebServer server;
+        Driver::Trigger(u"Menu_File_Browser"_s);
+        QCOMPARE(Shared<Frm_Main>().windowTitle(), u"Sorvane HTML Editor 3.0 [Browser]"_s);
+        QVERIFY(Global::BrowserOpen && Global::NavigationBarOpen);
+        Shared<Frm_Browser>().Navigate(server.Address());
+        QVERIFY(WaitForTitle(u"Netz"_s));
+        Neighbours::StartWAPBrowser();
+        QCOMPARE(Shared<Frm_Main>().windowTitle(), u"Sorvane HTML Editor 3.0 [WAP Browser]"_s);
+        // a document closes the network again
+        Preview("<title>Lokal</title>");
+        QVERIFY(WaitForTitle(u"Lokal"_s));
+        Shared<Frm_Browser>().Navigate(u"http://localhost:%1/"_s.arg(server.serverPort()));
+        QVERIFY(WaitForTitle(u"Nicht geladen"_s));
+    }
+
+    void keepsScriptsInTheirPage() {
+        m_folder->Write(u"geheim.txt"_s, "geheim");
+        m_folder->Write(u"wert.js"_s, "var wert = 7;");
+        Preview("<title>Leer</title><script src=wert.js></script><iframe id=f src=geheim.txt></iframe><script>"
+                "var x = new XMLHttpRequest; var r = 'nichts';"
+                "try { x.open('GET', 'geheim.txt', false); x.send(); r = x.responseText; } catch (e) {}"
+                "onload = function () { var t = ''; try { t = document.getElementById('f').contentDocument.body"
+                ".innerText; } catch (e) {} document.title = wert + r + t.indexOf('geheim'); };</script>");
+        QVERIFY2(WaitForTitle(u"7nichts-1"_s), qPrintable(Caption()));
+        QCOMPARE(Evaluate(u"typeof RTCPeerConnection"_s), u"undefined"_s);
+    }
+
+    void handsNewWindowsToTheUsersBrowser() {
+        m_folder->Write(u"archiv.zip"_s, "PK");
+        Preview("<title>Eins</title><body style='margin:0'><a style='display:block;height:99px' target=_blank "
+                "href='zwei.htm'>x</a><a style='display:block;height:99px' href='archiv.zip'>z</a>"
+                "<script>onload = function () { window.open('drei.htm'); }</script>");
+        QVERIFY(WaitForTitle(u"Eins"_s));
+        auto* view = Driver::Find<QWebEngineView>(u"Browser"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(view->focusProxy(), Patience);
+        Evaluate(u"1"_s); // the page stands
+        const QString question = u"Die Vorschau zeigt das nicht selbst. Soll es in Ihrem Browser geöffnet werden?\r\n\r\n"_s;
+        m_dialogs->ExpectMessage(u"HTML Vorschau"_s, question + m_folder->System(u"zwei.htm"_s), Dialogs::Answer::Yes);
+        m_dialogs->ExpectAddress(QString::fromLatin1(QUrl::fromLocalFile(m_folder->System(u"zwei.htm"_s)).toEncoded()));
+        QTest::mouseClick(view->focusProxy(), Qt::LeftButton, {}, {30, 30});
+        QTRY_VERIFY_WITH_TIMEOUT(m_dialogs->Finished(), Patience);
+        m_dialogs->ExpectMessage(u"HTML Vorschau"_s, question + m_folder->System(u"archiv.zip"_s), Dialogs::Answer::No);
+        QTest::mouseClick(view->focusProxy(), Qt::LeftButton, {}, {30, 130});
+        QTRY_VERIFY_WITH_TIMEOUT(m_dialogs->Finished(), Patience);
+        QCOMPARE(Caption(), u"HTML Vorschau - Eins"_s);
+    }
+
+    void outlivesItsPage() {
+        Preview("<title>Eins</title>");
+        QVERIFY(WaitForTitle(u"Eins"_s));
+        auto* reload = Driver::Find<QAbstractButton>(u"Cmd_Reload"_s);
+        QVERIFY(!reload->isVisible());
+        ::kill(static_cast<pid_t>(Page()->renderProcessPid()), SIGKILL);
+        QTRY_VERIFY_WITH_TIMEOUT(reload->isVisible(), Patience);
+        m_folder->Write(u"seite.htm"_s, "<title>Wieder</title>");
+        reload->click();
+        QVERIFY(WaitForTitle(u"Wieder"_s));
+        QVERIFY(!reload->isVisible());
+
+        // a script without end is left behind by the next preview
+        m_folder->Write(u"seite.htm"_s, "<script>while (true) {}</script>");
+        QSignalSpy started(Page(), &QWebEnginePage::loadStarted);
+        Shared<Frm_Browser>().Refresh();
+        QVERIFY(started.wait(Patience));
+        QTest::qWait(2500);
+        m_folder->Write(u"seite.htm"_s, "<title>Heil</title>");
+        Shared<Frm_Browser>().Refresh();
+        QVERIFY(WaitForTitle(u"Heil"_s));
+    }
+
+    void silencesARowOfMessages() {
+        QStringList shown;
+        const auto answer = [&](QWidget* box) {
+            auto* message = qobject_cast<QMessageBox*>(box);
+            shown << message->text();
+            if (message->checkBox()) message->checkBox()->setChecked(true);
+            message->button(QMessageBox::Ok)->click();
+        };
+        Driver::InModal(u"PageMessage"_s, [&](QWidget* box) {
+            Driver::InModal(u"PageMessage"_s, answer);
+            answer(box);
+        });
+        Preview("<script>for (var i = 0; i < 50; ++i) alert(i); document.title = 'Fertig';</script>");
+        QVERIFY(WaitForTitle(u"Fertig"_s));
+        QCOMPARE(shown, (QStringList{u"0"_s, u"1"_s}));
+    }
+
+    void fitsTheMainWindow() {
+        Global::AutoMaximize = true;
+        Preview("<title>Eins</title>");
+        Frm_Browser& browser = Shared<Frm_Browser>();
+        const Neighbours::Size main = Shared<Frm_Main>().LayoutSize();
+        QCOMPARE(browser.BrowserFitMode, 2);
+        QCOMPARE(browser.Width(), main.width - 180);
+        QCOMPARE(browser.Height(), main.height - 1370);
+        Driver::Trigger(u"Menu_Window_SetV"_s);
+        QCOMPARE(browser.BrowserFitMode, 0);
+        const int left = browser.Left();
+        QVERIFY(left > 0 && browser.Width() < left);
+        browser.ShowMaximizedState(); // the button of its title bar, twice
+        QCOMPARE(browser.Width(), main.width - 180);
+        QCOMPARE(browser.State(), 0);
+        browser.ShowMaximizedState();
+        QCOMPARE(browser.Left(), left);
+        Driver::Trigger(u"Menu_Window_MaximizeAll"_s);
+        QCOMPARE(browser.Width(), main.width - 180);
+        Global::ProjectWindowOpen = true;
+        Neighbours::ProjectManagerWidth.AnsweredBy([] { return 2200; });
+        Neighbours::LayoutBrowser();
+        QCOMPARE(browser.Left(), 2200);
+        QCOMPARE(browser.Width(), main.width - 180 - 2200);
+        Global::ProjectWindowOpen = false;
+    }
+
+    void keepsTheBarsPlaceAndItsHistory() {
+        Global::NavigationPos[1] = u"1500"_s;
+        Global::NavigationPos[2] = u"3000"_s;
+        Shared<Frm_Navigation>().Present();
+        QCOMPARE(Shared<Frm_Navigation>().pos(), QPoint(100, 200));
+        auto* url = Driver::Find<QComboBox>(u"Cmb_Url"_s);
+        QTest::keyClicks(url->lineEdit(), u"aba"_s);
+        QCOMPARE(url->currentText(), u"aba"_s);
+        QCOMPARE(url->count(), 3); // one for each key
+        url->setEditText(u"ab"_s);
+        QCOMPARE(url->count(), 4); // whether it is there already or not
+        Driver::Click(u"Tlb_Navigation_Back_Button"_s); // without a preview nothing happens
+        Shared<Frm_Navigation>().move(200, 220);
+        Shared<Frm_Navigation>().close();
+        QVERIFY(!Global::NavigationBarOpen);
+        QCOMPARE(Global::NavigationPos[1], u"3000"_s);
+        QCOMPARE(Global::NavigationPos[2], u"3300"_s);
+        Global::NavigationPos[1] = u"999999"_s; // a screen that is gone
+        Shared<Frm_Navigation>().Present();
+        QVERIFY(Shared<Frm_Navigation>().screen()->geometry().contains(Shared<Frm_Navigation>().pos()));
+    }
+};
+
+REGISTER_TEST(FrmBrowser);
+#include "frm_browser_test.moc"

@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+#include "preview/preview_commands.h"
+
+#include "documents/text_buffer.h"
+#include "editing/lists.h"
+#include "platform/files.h"
+#include "platform/literals.h"
+#include "shell/commands.h"
+#include "shell/global.h"
+#include "shell/neighbours.h"
+#include "support/program_folder.h"
+#include "support/scripted_dialogs.h"
+#include "support/test_registry.h"
+
+using namespace Preview;
+
+class PreviewCommands : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<ProgramFolder> m_folder;
+    std::unique_ptr<TextBuffer> m_box;
+    QStringList m_calls;
+
+    // Opens a document as the editor has it.
+    void Open(const QString& name, const QString& text) {
+        Global::CurrentFile = m_folder->Path(name);
+        Global::DocOpen = Global::CodeWindowOpen = true;
+        m_box->SetText(text);
+    }
+
+private slots:
+    void init() {
+        m_folder = std::make_unique<ProgramFolder>();
+        QVERIFY(Lists::LoadTagList());
+        m_box = std::make_unique<TextBuffer>();
+        m_calls.clear();
+        Neighbours::TheCodeBox.AnsweredBy([this] { return m_box.get(); });
+        Neighbours::Browse.AnsweredBy([this](const QString& path) { m_calls << u"browse "_s + path; });
+        Neighbours::CheckSyntax.AnsweredBy([this] { m_calls << u"check"_s; });
+        Neighbours::RunAnimation.AnsweredBy([this](int, const QString& text) { m_calls << text; });
+    }
+    void cleanup() {
+        m_folder.reset();
+        Global::CodeWindowOpen = Global::DebuggerOpen = Global::AssistantOpen = false;
+    }
+
+    void showsTheSavedPage() {
+        Open(u"seite.htm"_s, u"<P>Neu</P>"_s);
+        Global::DocChanged = Global::DebuggerOpen = true;
+        Menu_View_Browser_Once();
+        QCOMPARE(m_folder->Read(u"seite.htm"_s), "<P>Neu</P>\r\n");
+        QCOMPARE(m_calls, (QStringList{u"check"_s, u"browse "_s + m_folder->Path(u"seite.htm"_s)}));
+
+        // without a project the index page is the page itself; with one it is the project's
+        m_calls.clear();
+        Global::DebuggerOpen = false;
+        Menu_View_Browser_Project();
+        QCOMPARE(m_calls, QStringList{u"browse "_s + m_folder->Path(u"seite.htm"_s)});
+        Neighbours::ReturnIndexFile.AnsweredBy([] { return u"\\web\\index.htm"_s; });
+        Menu_View_Browser_Project();
+        QCOMPARE(m_calls.last(), u"browse \\web\\index.htm"_s);
+    }
+
+    void showsNoScriptsAndStyles_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("shown");
+        QTest::newRow("page") << u"a.html"_s << true;
+        QTest::newRow("none") << u"liesmich"_s << true;
+        QTest::newRow("script") << u"a.js"_s << false;
+        QTest::newRow("upper case") << u"A.VBS"_s << false;
+        QTest::newRow("style") << u"a.css"_s << false;
+    }
+    void showsNoScriptsAndStyles() {
+        QFETCH(QString, name);
+        QFETCH(bool, shown);
+        Open(name, u"a"_s);
+        // the answers of the type detection are not asked for here
+        Global::AssistantOpen = true;
+        Menu_View_Browser_Once();
+        QVERIFY(m_folder->Has(name)); // saved in any case
+        const QString refusal = u"Für diesen Dateityp ist keine Vorschau möglich."_s;
+        QCOMPARE(m_calls.contains(refusal), !shown);
+        QCOMPARE(m_calls.contains(u"Das ist die Vorschau der aktuellen Seite."_s), shown);
+        QCOMPARE(m_calls.contains(u"browse "_s + Global::CurrentFile), shown);
+    }
+
+    void staysSilentWhenSavingIsCancelled() {
+        ScriptedDialogs dialogs;
+        Open({}, u"a"_s);
+        Global::CurrentFile.clear();
+        for (const auto command : {Menu_View_Browser_Once, Menu_View_Browser_Project, Menu_View_Browser_WAP}) {
+            dialogs.ExpectSaveFile(u"Speichern unter"_s, QString());
+            command();
+        }
+        QCOMPARE(m_calls, QStringList());
+    }
+
+    void writesTheTemporaryCopy_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("copy");
+        QTest::addColumn<QByteArray>("bytes");
+        const auto row = [](const char* title, const QString& name, const QString& text, const QString& copy,
+                            const QByteArray& bytes) { QTest::newRow(title) << name << text << copy << bytes; };
+        row("unnamed", QString(), u"<p>ä"_s, u"temp.htm"_s, "<p>\xE4\r\n");
+        row("extension cut", u"x.html"_s, u"a\r\n"_s, u"temp.htm"_s, "a\r\n");
+        row("style sheet", u"x.css"_s, u"a{}"_s, u"temp.css"_s, "a{}\r\n");
+        row("one line end goes", u"x.htm"_s, u"a\r\n\r\n \t"_s, u"temp.htm"_s, "a\r\n\r\n");
+        row("tail stays", u"x.htm"_s, u"a\r\n!"_s, u"temp.htm"_s, "a\r\n!\r\n");
+        row("beyond the code page", u"x.htm"_s, u"ä\u0416"_s, u"temp.htm"_s, "\xC3\xA4\xD0\x96\r\n");
+    }
+    void writesTheTemporaryCopy() {
+        QFETCH(QString, name);
+        QFETCH(QString, text);
+        QFETCH(QString, copy);
+        QFETCH(QByteArray, bytes);
+        Open(name, text);
+        if (name.isEmpty()) Global::CurrentFile.clear();
+        Global::DocChanged = true;
+        Menu_View_Browser_Temp();
+        QCOMPARE(m_folder->Read(copy), bytes);
+        QCOMPARE(m_calls, QStringList{u"browse "_s + m_folder->Path(copy)});
+        QVERIFY(Global::DocChanged && (name.isEmpty() || !m_folder->Has(name))); // nothing was saved
+        // what the copy needed does not turn the document's own encoding
+        QCOMPARE(Global::DocumentFormat.encoding, CodePage::Encoding::Windows1252);
+    }
+
+    void copiesInTheDocumentsEncoding() {
+        Open(u"x.htm"_s, u"ä\r\nö"_s);
+        Global::DocumentFormat = {CodePage::Encoding::Utf8, true, true};
+        Menu_View_Browser_Temp();
+        QCOMPARE(m_folder->Read(u"temp.htm"_s), "\xEF\xBB\xBF\xC3\xA4\n\xC3\xB6\n");
+        // with the code window closed the text is the held one
+        Global::CodeWindowOpen = false;
+        Global::HeldSource = u"<P>x</P>"_s;
+        Global::DocumentFormat = {};
+        Commands::SetChecked(u"Menu_Tools_Option_2"_s, true);
+        Menu_View_Browser_Temp();
+        QCOMPARE(m_folder->Read(u"temp.htm"_s), "<p>x</p>\r\n");
+    }
+
+    void tellsWhenTheCopyCannotBeWritten() {
+        ScriptedDialogs dialogs;
+        Open(u"x.htm"_s, u"a"_s);
+        Files::SetProgramDirectory(u"\\no\\such\\folder"_s);
+        dialogs.ExpectMessage(u"Fehler"_s, u"Die Datei für die Temporärvorschau konnte nicht geschrieben werden."_s);
+        Menu_View_Browser_Temp();
+        QCOMPARE(m_calls, QStringList());
+    }
+
+    void leavesAPictureAlone() {
+        const QByteArray bytes("GIF89a\r\n\r\n\n\x01");
+        m_folder->Write(u"bild.gif"_s, bytes);
+        Open(u"bild.gif"_s, {});
+        Global::CodeWindowOpen = false;
+        Global::DocType = u"IMG"_s;
+        Global::HeldSource = QString::fromLatin1(bytes);
+        Menu_View_Browser_Once();
+        QCOMPARE(m_folder->Read(u"bild.gif"_s), bytes);
+        QCOMPARE(m_calls, QStringList{u"browse "_s + m_folder->Path(u"bild.gif"_s)});
+    }
+
+    void convertsForTheWAPSimulation() {
+        ScriptedDialogs dialogs;
+        Open(u"start.seite.wml"_s, u"<wml>"_s);
+        dialogs.ExpectMessage(u"WAP-Simulation"_s,
+                              u"Diese Seite kann noch nicht für die WAP-Simulation umgewandelt werden."_s);
+        Menu_View_Browser_WAP();
+        QCOMPARE(m_calls, QStringList());
+        Neighbours::GenerateWAPPreview.AnsweredBy([this] {
+            m_calls << u"convert"_s;
+            return true;
+        });
+        Menu_View_Browser_WAP();
+        QCOMPARE(m_calls,
+                 (QStringList{u"convert"_s, u"browse "_s + m_folder->Path(u"tmp/start.seite.htm"_s)}));
+    }
+};
+
+REGISTER_TEST(PreviewCommands);
+#include "preview_commands_test.moc"
