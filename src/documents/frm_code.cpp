@@ -4,6 +4,7 @@
 #include "documents/paths.h"
 #include "documents/undo.h"
 #include "editing/lists.h"
+#include "platform/drop_down_list.h"
 #include "platform/icons.h"
 #include "platform/literals.h"
 #include "platform/text.h"
@@ -12,7 +13,6 @@
 #include "shell/global.h"
 #include "shell/neighbours.h"
 
-#include <QComboBox>
 #include <QKeyEvent>
 #include <QToolBar>
 
@@ -39,8 +39,8 @@ const Tool Tools[] = {{u"Frm_TagTools", &Global::TagToolOpen, &Global::TagToolPo
 } // namespace
 
 Frm_Code::Frm_Code()
-    : TextBox(new Txt_Code(this)), Pic_ToolBar(new QWidget(this)), Cmb_Functions(new QComboBox(Pic_ToolBar)),
-      Cmb_Variables(new QComboBox(Pic_ToolBar)), Tlb_JavaScript(new QToolBar(Pic_ToolBar)) {
+    : TextBox(new Txt_Code(this)), Pic_ToolBar(new QWidget(this)), Cmb_Functions(new DropDownList(Pic_ToolBar)),
+      Cmb_Variables(new DropDownList(Pic_ToolBar)), Tlb_JavaScript(new QToolBar(Pic_ToolBar)) {
     setObjectName(u"Frm_Code"_s);
     setFocusProxy(TextBox);
     Pic_ToolBar->setObjectName(u"Pic_ToolBar"_s);

@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-class QComboBox;
+class DropDownList;
 class QLabel;
 class QToolBar;
 
@@ -25,6 +25,8 @@ public:
     void ActualizeSize();
     // Shows line and column in the status bar.
     void GetCursorPos();
+    // Runs the check, if the debugger is shown, once per change: when the user leaves the spot.
+    void CheckOnce();
     // Twips by which the code box's top stands below the window's; 330 while the script bar shows.
     int CodeTop() const { return m_codeTop; }
 
@@ -39,8 +41,8 @@ public:
 
     Txt_Code* const TextBox;
     QWidget* const Pic_ToolBar;
-    QComboBox* const Cmb_Functions;
-    QComboBox* const Cmb_Variables;
+    DropDownList* const Cmb_Functions;
+    DropDownList* const Cmb_Variables;
     QToolBar* const Tlb_JavaScript;
 
 protected:
@@ -60,7 +62,6 @@ private:
     void Code_Change();
     void Code_KeyDown(int key, int shift);
     void Code_MouseDown(int button, int shift, double x, double y);
-    void CheckOnce(); // runs the check once per change, when the user leaves the spot
 
     int m_codeTop = 0;
     int SavedLeft = 0;

@@ -3,9 +3,11 @@
 
 #include "platform/twips.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 
 namespace {
 QPointer<QMdiArea>& HostArea() {
@@ -27,6 +29,8 @@ MdiChild::MdiChild() {
     m_frame->setAttribute(Qt::WA_DeleteOnClose, false);
     m_frame->setWidget(this);
     m_frame->setMinimumSize(80, 40);
+    // the frame's own menu must not take keys that are commands of the program
+    for (QAction* action : m_frame->systemMenu()->actions()) action->setShortcuts(QList<QKeySequence>());
     HostArea()->addSubWindow(m_frame);
     m_frame->hide();
     m_frame->installEventFilter(this);

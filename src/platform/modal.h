@@ -10,7 +10,9 @@
 template <class Dialog> void ShowModal() {
     if (Loaded<Dialog>()) return;
     Dialog& dialog = Shared<Dialog>();
-    if (!dialog.parentWidget()) dialog.setParent(QApplication::activeWindow(), dialog.windowFlags());
+    QWidget* parent = QApplication::activeWindow();
+    // a window that has just ended its life would take the dialog along
+    if (!dialog.parentWidget() && parent && parent->isVisible()) dialog.setParent(parent, dialog.windowFlags());
     dialog.exec();
     Unload<Dialog>();
 }

@@ -4,6 +4,7 @@
 #include "platform/literals.h"
 
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -20,6 +21,10 @@ bool PageMessages::Run(QMessageBox& box) {
         auto* silence = new QCheckBox(u"Keine weiteren Meldungen dieser Seite &zeigen"_s);
         silence->setObjectName(u"Chk_Silence"_s);
         box.setCheckBox(silence);
+    }
+    // wide enough for its title, however short the text is
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+        grid->setColumnMinimumWidth(grid->columnCount() - 1, box.fontMetrics().horizontalAdvance(Title) + 80);
     }
     const bool accepted = box.exec() == QMessageBox::Ok;
     m_silenced = box.checkBox() && box.checkBox()->isChecked();

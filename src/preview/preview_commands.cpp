@@ -30,6 +30,7 @@ QString IndexFile() {
 
 // Checks and saves the document. Returns whether it was saved.
 bool SaveFirst() {
+    if (!Global::DocOpen) return false; // the keys reach the items of a closed submenu, too
     if (Global::DebuggerOpen) Neighbours::CheckSyntax();
     // A picture cannot have changed, and saving ends a text with a line break.
     if (Global::DocType == u"IMG" && !Global::DocChanged) return true;
@@ -91,6 +92,7 @@ void Menu_View_Browser_Project() {
 }
 
 void Menu_View_Browser_Temp() {
+    if (!Global::DocOpen) return;
     const QString file = TemporaryFile();
     CodePage::Format format = Global::DocumentFormat; // the copy is encoded as the document itself
     if (!DocumentFile::Save(file, DocumentText(), format)) {

@@ -68,6 +68,9 @@ void Frm_Main::WireNeighbours() {
     });
     ShowCodeWindow.AnsweredBy([] { Shared<Frm_Code>().BringToFront(); });
     Neighbours::ScriptBarShown.AnsweredBy([] { return Loaded<Frm_Code>() && Shared<Frm_Code>().CodeTop() > 0; });
+    CheckOnce.AnsweredBy([] {
+        if (Loaded<Frm_Code>()) Shared<Frm_Code>().CheckOnce();
+    });
     Neighbours::ActivateToolBar.AnsweredBy([] {
         if (Loaded<Frm_Code>()) Shared<Frm_Code>().ActivateToolBar();
     });
@@ -108,13 +111,13 @@ Neighbours::MainPlace Frm_Main::Place() const {
 
 void Frm_Main::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
-    if (m_wantedOuterSize.isEmpty() || isMaximized() || isMinimized()) return;
-    // The settings hold the outer size; what the frame takes of it is known a moment after the window is mapped.
+    if (m_wantedPlace.isEmpty()) return;
+    // The settings hold the outer place; what the frame takes of it is known a moment after the window is mapped.
     QTimer::singleShot(0, this, [this] {
-        const QSize wanted = std::exchange(m_wantedOuterSize, {});
+        const QRect wanted = std::exchange(m_wantedPlace, {});
         if (wanted.isEmpty() || isMaximized() || isMinimized()) return;
         const QMargins frame = windowHandle() ? windowHandle()->frameMargins() : QMargins();
-        resize(wanted.width() - frame.left() - frame.right(), wanted.height() - frame.top() - frame.bottom());
+        setGeometry(wanted.marginsRemoved(frame));
     });
 }
 
@@ -163,6 +166,7 @@ void Frm_Main::AddMenuAttribute(const QString& caption, const QString& tag) {
         if (known->objectName().startsWith(u"Menu_Menu_Code_Attribute_")) ++count;
     }
     item->setObjectName(u"Menu_Menu_Code_Attribute_"_s + QString::number(count - 1));
+    item->setEnabled(!caption.startsWith(u'·')); // a heading among the attributes
     connect(item, &QAction::triggered, this, [tag] { Neighbours::InsertAttribute(tag); });
     m_menu->CodeMenu()->addAction(item);
 }

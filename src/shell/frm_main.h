@@ -68,7 +68,7 @@ private:
     MainMenu* m_menu;
     StatusBar* m_statusBar;
     QMdiArea* m_area;
-    QSize m_wantedOuterSize; // pixels; the frame's share is known only once the window is shown
+    QRect m_wantedPlace; // pixels, with the frame, whose share is known only once the window is shown
     bool m_ending = false;
 };
 

@@ -51,7 +51,8 @@ void MainMenu::BuildMenus() {
             menu->menuAction()->setObjectName(name);
             m_actions.insert(name, menu->menuAction());
             open.push_back(menu);
-            if (name == u"Menu_Code") m_codeMenu = menu;
+            // a list of attributes that is longer than the screen scrolls in one column
+            if (name == u"Menu_Code") (m_codeMenu = menu)->setStyleSheet(u"QMenu { menu-scrollable: 1; }"_s);
         } else {
             QAction* action = MakeAction(name, row.caption.toString(), row.icon, name);
             if (!row.shortcut.isEmpty()) action->setShortcut(QKeySequence(row.shortcut.toString()));

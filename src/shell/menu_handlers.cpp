@@ -131,6 +131,8 @@ void AddEditHandlers(Handlers& handlers) {
                      {u"Menu_Insert_Time"_s, Menu_Insert_Time},
                      {u"Menu_Insert_FileName"_s, Menu_Insert_FileName},
                      {u"Menu_Insert_CloseTag"_s, Menu_Insert_CloseTag},
+                     {u"Menu_Insert_AutoWord"_s, [] { Neighbours::OpenAutoWord(0); }},
+                     {u"Menu_Insert_JavaScript_CurrentVar"_s, [] { Neighbours::InsertCurrentVariable(); }},
                      {u"Menu_Tools_UCaseTags"_s, Menu_Tools_UCaseTags},
                      {u"Menu_Tools_LCaseTags"_s, Menu_Tools_LCaseTags},
                      {u"Menu_Menu_Code_Cut"_s, Menu_Edit_Cut_Click},

@@ -7,7 +7,7 @@ void Reset() {
     const auto unwire = [](auto&... calls) { (calls.AnsweredBy({}), ...); };
     unwire(ReadMainPlace, MainSize, AttachToCode, ActivateFunktions, SetMainCaption, SetStatusPanel, AddMenuAttribute, UnloadMenuAttributes,
            ShowPleaseWait, SetWorkProgress, TheCodeBox, FocusCode, ShowCodeWindow,
-           ScriptBarShown, ActivateToolBar, HidePopupList, WatchTagForAssistant, SubstituteUmlauts, CodeKeyDown,
+           ScriptBarShown, ActivateToolBar, HidePopupList, CheckOnce, OpenAutoWord, InsertCurrentVariable, WatchTagForAssistant, SubstituteUmlauts, CodeKeyDown,
            CodeKeyUp, CodeMouseDown, CodeMouseMove, CodeLostFocus, RunAnimation, ShowAssistant, AssistantWidth,
            LayoutAssistant, CheckSyntax, ShowDebugger, DebuggerHeight, LayoutDebugger, ShowProjectManager,
            ProjectManagerWidth, LayoutProjectManager, SearchLinks, DeleteFileIndex, RefreshProject, UpdateClassList,

@@ -64,11 +64,14 @@ inline Neighbour<void()> FocusCode;    // brings Frm_Code to the front, focus in
 inline Neighbour<void()> ShowCodeWindow; // brings Frm_Code to the front
 inline Neighbour<bool()> ScriptBarShown; // whether the script bar of a loaded Frm_Code is uncovered
 inline Neighbour<void()> ActivateToolBar; // of Frm_Code
+inline Neighbour<void()> CheckOnce;       // runs the check, if the debugger is shown, once per change of the text
 
 // The aids that are attached to the code box. Answered by the editing folder.
 inline Neighbour<void(Frm_Code*)> AttachToCode;  // the window is loading; nothing when it has gone
 inline Neighbour<void()> HidePopupList;          // Lvw_Attributes and Pic_Shadow
 inline Neighbour<void(const QString&)> InsertAttribute; // of the tag under the last right click
+inline Neighbour<void(double)> OpenAutoWord;     // completes the word at the caret, to which the offset is added
+inline Neighbour<void()> InsertCurrentVariable;  // the one chosen in the script bar
 inline Neighbour<void()> WatchTagForAssistant;   // after a change
 inline Neighbour<void()> SubstituteUmlauts;      // after a change
 inline Neighbour<void(int, int)> CodeKeyDown;    // key code and shift mask, before the box acts

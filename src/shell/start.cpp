@@ -139,7 +139,7 @@ void Frm_Main::RestorePlace() {
     if (!visible) place.moveTopLeft(screen.topLeft());
     move(place.topLeft());
     resize(place.size());
-    m_wantedOuterSize = place.size();
+    m_wantedPlace = place;
 
     const auto stateNumber = [](const QString& text) {
         double value = 0;

@@ -4,7 +4,10 @@
 #include "assistant/frm_assistant.h"
 #include "assistant/frm_help.h"
 #include "assistant/wire_assistant.h"
+#include "debugger/frm_debug.h"
+#include "debugger/wire_debugger.h"
 #include "documents/frm_code.h"
+#include "editing/code_aids.h"
 #include "editing/frm_line_zoom.h"
 #include "platform/literals.h"
 #include "platform/modal.h"
@@ -44,6 +47,7 @@ const QHash<QString, WindowEntry>& Windows() {
         {u"Frm_KeyCombo"_s, {[] { Unload<Frm_KeyCombo>(); }, [] { ShowModal<Frm_KeyCombo>(); }}},
         {u"Frm_LineZoom"_s, {[] { Unload<Frm_LineZoom>(); }, [] { ShowModal<Frm_LineZoom>(); }}},
         {u"Frm_Assistant"_s, {[] { Unload<Frm_Assistant>(); }, [] { Neighbours::ShowAssistant(true); }}},
+        {u"Frm_DeBug"_s, {[] { Unload<Frm_DeBug>(); }, [] { Shared<Frm_DeBug>().Present(); }}},
         {u"Frm_Browser"_s, {[] { Unload<Frm_Browser>(); }, Preview::StartBrowsing}},
         {u"WAPBrowser"_s, {[] {}, Preview::StartWAPBrowsing}}, // a mode of the browser, no window of its own
         {u"Frm_Navigation"_s, {[] { Unload<Frm_Navigation>(); }, [] { Shared<Frm_Navigation>().Present(); }}},
@@ -59,7 +63,9 @@ const QHash<QString, WindowEntry>& Windows() {
 } // namespace
 
 void WireWindows() {
+    CodeAids::Wire();
     WireAssistant();
+    WireDebugger();
     Preview::WirePreview();
     Neighbours::CheckForUpdate.AnsweredBy([] { UpdateCheck::CheckForUpdate(Addresses::UpdateCheck); });
     Neighbours::UnloadWindow.AnsweredBy([](const QString& name) {
