@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "documents/text_history.h"
 
+#include "platform/text.h"
+
 #include <algorithm>
 
 TextHistory::Difference TextHistory::Between(const QString& newer, const QString& older) {
     const qsizetype shorter = std::min(newer.size(), older.size());
     if (newer.constData() == older.constData() && newer.size() == older.size()) return {shorter, 0, {}};
-    const auto begin = older.cbegin();
-    const qsizetype prefix = std::mismatch(begin, begin + shorter, newer.cbegin()).first - begin;
-    const auto rest = older.crbegin();
-    const qsizetype suffix = std::mismatch(rest, rest + (shorter - prefix), newer.crbegin()).first - rest;
+    const qsizetype prefix = Text::CommonPrefix(newer, older);
+    const qsizetype suffix =
+        Text::CommonSuffix(QStringView(newer).sliced(prefix), QStringView(older).sliced(prefix));
     return {prefix, suffix, older.sliced(prefix, older.size() - prefix - suffix)};
 }
 

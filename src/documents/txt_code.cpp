@@ -46,7 +46,12 @@ void Txt_Code::TakeDocumentChange(int position, int removed, int added) {
     QTextCursor cursor(document());
     cursor.setPosition(position);
     cursor.setPosition(std::min(position + added, document()->characterCount() - 1), QTextCursor::KeepAnchor);
-    m_text.replace(begin, end - begin, DocumentCharacters::Shown(cursor.selectedText()));
+    // The old text is shared with the undo: the new one is put together in one pass over it.
+    const QString inserted = DocumentCharacters::Shown(cursor.selectedText());
+    QString text;
+    text.reserve(m_text.size() - (end - begin) + inserted.size());
+    text.append(QStringView(m_text).first(begin)).append(inserted).append(QStringView(m_text).sliced(end));
+    m_text = std::move(text);
     // The document reports some changes at its end one character too long; then all is read anew.
     if (m_text.size() != document()->characterCount() - 1 + document()->blockCount() - 1) {
         QString raw = document()->toRawText();
@@ -74,10 +79,8 @@ void Txt_Code::ReplaceRange(int from, int to, const QString& text) {
 
 void Txt_Code::SetText(const QString& text) {
     const QString whole = Text::WithFullLineBreaks(text);
-    const qsizetype shorter = std::min(whole.size(), m_text.size());
-    qsizetype same = std::mismatch(whole.cbegin(), whole.cbegin() + shorter, m_text.cbegin()).first - whole.cbegin();
-    qsizetype tail = std::mismatch(whole.crbegin(), whole.crbegin() + (shorter - same), m_text.crbegin()).first -
-                     whole.crbegin();
+    qsizetype same = Text::CommonPrefix(whole, m_text);
+    qsizetype tail = Text::CommonSuffix(QStringView(whole).sliced(same), QStringView(m_text).sliced(same));
     if (same > 0 && m_text[same - 1] == u'\r') --same; // whole line breaks only
     if (tail > 0 && m_text[m_text.size() - tail] == u'\n') --tail;
     m_writing = true;

@@ -61,6 +61,10 @@ QChar LowerCase(QChar character);
 // Whether both are equal when turned to upper case.
 bool EqualIgnoringCase(QStringView a, QStringView b);
 
+// Number of characters that both texts begin with, and end with, alike.
+qsizetype CommonPrefix(QStringView a, QStringView b);
+qsizetype CommonSuffix(QStringView a, QStringView b);
+
 // `text` with every lone CR or LF turned into CR LF.
 QString WithFullLineBreaks(QStringView text);
 // Whether `text` holds no CR or LF but in the pair CR LF.

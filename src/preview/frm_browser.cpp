@@ -67,6 +67,7 @@ QWidget* Frm_Browser::MakeCrashNotice() {
     auto* reload = new QPushButton(Icons::Named(u"nav_reload"), u"Seite &neu laden"_s);
     reload->setObjectName(u"Cmd_Reload"_s);
     connect(reload, &QPushButton::clicked, this, &Frm_Browser::Refresh);
+    notice->setFocusProxy(reload);
     auto* all = new QVBoxLayout(notice);
     all->addStretch();
     all->addWidget(text);
@@ -105,6 +106,7 @@ void Frm_Browser::MakePage() {
                 if (status == QWebEnginePage::NormalTerminationStatus) return;
                 m_loading.invalidate();
                 m_layers->setCurrentWidget(m_crashNotice);
+                if (IsActiveChild() && isActiveWindow()) m_crashNotice->setFocus();
             });
 }
 

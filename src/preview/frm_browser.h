@@ -34,6 +34,8 @@ public:
     void Stop();
     // The address of what is shown, as the user reads it.
     QString Address() const;
+    // What the last StatusTextChange said of it, the mouse aside.
+    QString Status() const { return m_restStatus; }
 
     void SetOffline(bool offline) { m_rule.offline = offline; }
     bool Offline() const { return m_rule.offline; }

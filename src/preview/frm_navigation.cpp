@@ -83,8 +83,9 @@ void Frm_Navigation::OnLoad() {
     RestorePlace();
     if (!Loaded<Frm_Browser>()) return;
     Frm_Browser& browser = Shared<Frm_Browser>();
-    connect(&browser, &Frm_Browser::StatusTextChange, this,
-            [this](const QString& text) { setWindowTitle(Caption + u" - "_s + text); });
+    const auto showStatus = [this](const QString& text) { setWindowTitle(Caption + u" - "_s + text); };
+    connect(&browser, &Frm_Browser::StatusTextChange, this, showStatus);
+    if (!browser.Status().isEmpty()) showStatus(browser.Status());
     connect(&browser, &Frm_Browser::DocumentComplete, Cmb_Url, &QComboBox::setEditText);
     Cmb_Url->setEditText(browser.Address());
 }

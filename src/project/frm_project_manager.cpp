@@ -2,7 +2,6 @@
 #include "project/frm_project_manager.h"
 
 #include "documents/code_access.h"
-#include "documents/frm_code.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/files.h"
@@ -13,16 +12,13 @@
 #include "shell/global.h"
 #include "shell/neighbours.h"
 
-#include <QHeaderView>
-#include <QKeyEvent>
+#include <QAction>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QMouseEvent>
 #include <QPointer>
 #include <QToolBar>
-#include <QToolButton>
 #include <QTreeView>
-#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -93,6 +89,7 @@ void Frm_ProjectManager::Refresh() {
 // --- the scan ------------------------------------------------------------------------------------------------
 
 void Frm_ProjectManager::SearchLinks() {
+    if (!m_open) return;
     const unsigned scan = ++m_scan; // one that runs already ends
     m_found.clear();
     m_files->Clear();
@@ -180,6 +177,7 @@ bool Frm_ProjectManager::SaveExtendedFiles() const {
 void Frm_ProjectManager::FillExtendedFileList() {
     std::vector<FileListRow> rows;
     for (const ExtendedFileRow& row : m_project.Rows()) rows.push_back(FileListRow::From(row));
+    if (SelectedList == List::ExtendedFiles) ClearSelection();
     m_extendedFiles->Clear();
     m_extendedFiles->Add(std::move(rows));
 }

@@ -13,7 +13,6 @@ class FileListModel;
 struct FileListRow;
 class QAction;
 class QToolBar;
-class QToolButton;
 class QTreeView;
 
 // The files that the open page reaches, and those that the user has added to the project by hand. Docked at the
@@ -52,14 +51,16 @@ protected:
 
 private:
     enum class List { None, Files, ExtendedFiles };
-    enum class Saving { Done, Stopped };
+    static constexpr int FirstWidth = 2200; // twips
 
     void BuildToolBar();
     void BuildNewButtonMenu();
     void BuildLists();
     QTreeView* MakeList(const QString& name, FileListModel* model, std::initializer_list<int> widths);
+    void DockFrame();
     void ShowSkin();
     void LayOut();
+    static void GiveRoom();
     bool HandleListKey(List list, QEvent* event);
     void MoveDivider(double pointer);
 
@@ -79,8 +80,8 @@ private:
     // Runs a routine behind the present event: it may end the window, which its own controls must survive.
     void Later(void (Frm_ProjectManager::*routine)());
     bool AskToSave(const QString& question);
-    bool Push();
-    void Open(const QString& path);
+    void Push();
+    void OpenFromList(const QString& path);
     void Lvw_Files_DblClick();
     void Lvw_ExtendedFiles_DblClick();
     void Back_Click();
@@ -88,7 +89,7 @@ private:
     void Delete_Click();
     void GoTo_Click();
     void New_Click();
-    void NewMenu_Click(const QString& key);
+    void NewMenu_Click();
     void DeleteFile();
     void RemoveFromProject();
     void InsertFile();
@@ -102,7 +103,7 @@ private:
     QAction* m_delete;
     QAction* m_goTo;
     QAction* m_new;
-    QToolButton* m_newButton;
+    QString m_newKind; // key of the menu entry chosen last
     FileListModel* m_files;
     FileListModel* m_extendedFiles;
 

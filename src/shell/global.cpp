@@ -26,7 +26,7 @@ void Reset() {
     for (bool* flag : {&DocOpen, &DocChanged, &SaveSucceeded, &CloseSucceeded, &PicturePreview, &SkipUndoOnChange,
                        &AutoDebug, &AutoProjectManager, &AutoMaximize, &AutoPreView, &ShowDebugReport,
                        &ListLinkErrors, &UseWindowsMenu, &ShowExternLinks, &DontShowNewUpdate, &StartPending,
-                       &SkinFileExists}) {
+                       &AutoScan, &SkinFileExists}) {
         *flag = false;
     }
     DebugAccuracy = MaxLinkDeep = CurrentTip = FirstStart = 0;

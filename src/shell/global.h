@@ -36,6 +36,7 @@ inline bool BrowserOpen = false;
 inline bool DebuggerOpen = false;
 inline bool AssistantOpen = false;
 inline bool ProjectWindowOpen = false;
+inline bool AutoScan = false; // SearchLinks scans; otherwise it only empties the project window's list
 inline bool TagToolOpen = false;
 inline bool KCCToolOpen = false;
 inline bool ColorToolOpen = false;

@@ -9,6 +9,7 @@
 #include "platform/files.h"
 #include "platform/literals.h"
 #include "preview/preview_commands.h"
+#include "project/wire_project.h"
 #include "shell/addresses.h"
 #include "shell/commands.h"
 #include "shell/edit_commands.h"
@@ -165,6 +166,7 @@ void AddViewHandlers(Handlers& handlers) {
                      {u"Menu_View_CloseTools"_s, Menu_View_CloseTools},
                      {u"Menu_View_Zoom"_s, [] { Neighbours::RunTool(u"Frm_LineZoom"_s); }},
                      {u"Menu_Menu_Code_Zoom"_s, [] { Neighbours::RunTool(u"Frm_LineZoom"_s); }},
+                     {u"Menu_Tools_ProjectManager"_s, Project::Menu_Tools_ProjectManager_Click},
                      {u"Menu_Tools_KeyCombo"_s, [] { Neighbours::RunTool(u"Frm_KeyCombo"_s); }},
                      {u"Menu_Tools_Options"_s, [] { Neighbours::RunTool(u"Frm_Options"_s); }},
                      {u"Menu_View_ShowJavaScriptBar"_s, Menu_View_ShowJavaScriptBar},

@@ -14,6 +14,8 @@
 #include "preview/frm_browser.h"
 #include "preview/frm_navigation.h"
 #include "preview/wire_preview.h"
+#include "project/frm_project_manager.h"
+#include "project/wire_project.h"
 #include "shell/addresses.h"
 #include "shell/frm_info.h"
 #include "shell/frm_key_combo.h"
@@ -51,6 +53,8 @@ const QHash<QString, WindowEntry>& Windows() {
         {u"Frm_Browser"_s, {[] { Unload<Frm_Browser>(); }, Preview::StartBrowsing}},
         {u"WAPBrowser"_s, {[] {}, Preview::StartWAPBrowsing}}, // a mode of the browser, no window of its own
         {u"Frm_Navigation"_s, {[] { Unload<Frm_Navigation>(); }, [] { Shared<Frm_Navigation>().Present(); }}},
+        {u"Frm_ProjectManager"_s,
+         {[] { Unload<Frm_ProjectManager>(); }, Project::Menu_Tools_ProjectManager_Click}},
         {u"Frm_Help"_s, {[] { Unload<Frm_Help>(); }, [] { Shared<Frm_Help>().BringToFront(); }}},
         {u"Frm_NewUpdate"_s, {[] { Unload<Frm_NewUpdate>(); }, [] { ShowModal<Frm_NewUpdate>(); }}},
         {u"Frm_UpdateMessage"_s,
@@ -67,6 +71,7 @@ void WireWindows() {
     WireAssistant();
     WireDebugger();
     Preview::WirePreview();
+    Project::WireProject();
     Neighbours::CheckForUpdate.AnsweredBy([] { UpdateCheck::CheckForUpdate(Addresses::UpdateCheck); });
     Neighbours::UnloadWindow.AnsweredBy([](const QString& name) {
         const auto window = Windows().constFind(name);

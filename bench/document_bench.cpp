@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+// Opening, typing, changing tags and saving at three sizes, in the real program: processor time, and its growth from
+// size to size. A typed character is counted from the key to the painted window, with both its undo copies.
+#include "documents/code_access.h"
+#include "documents/document_commands.h"
+#include "documents/frm_code.h"
+#include "platform/literals.h"
+#include "shell/frm_main.h"
+#include "shell/global.h"
+#include "support/driver.h"
+#include "support/program_folder.h"
+
+#include <QApplication>
+#include <ctime>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+namespace {
+
+double ProcessorMilliseconds(const std::function<void()>& work) {
+    const std::clock_t begin = std::clock();
+    work();
+    return 1000.0 * double(std::clock() - begin) / CLOCKS_PER_SEC;
+}
+
+QByteArray RealisticPage(int bytes) {
+    QByteArray page = "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\">\r\n<html><body>\r\n";
+    const QByteArray block = "<TABLE border=\"0\" width=\"100%\">\r\n  <TR>\r\n    <TD class=\"preis\">Gr\xFC" "ner Salat"
+                             "</TD>\r\n    <TD align=\"right\">1,50&nbsp;EUR</TD>\r\n  </TR>\r\n</TABLE>\r\n"
+                             "<p>Der Verein l\xE4" "dt ein: am Samstag wird gepflanzt, am Sonntag gefeiert.<br>\r\n";
+    while (page.size() < bytes) page += block;
+    return page + "</body></html>\r\n";
+}
+
+struct Row {
+    const char* name;
+    std::vector<double> times;
+};
+
+void Print(const Row& row) {
+    std::printf("%-28s", row.name);
+    for (const double time : row.times) std::printf("%12.2f", time);
+    for (size_t i = 1; i < row.times.size(); ++i) std::printf("%9.1f", row.times[i] / row.times[i - 1]);
+    std::printf("\n");
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QApplication application(argc, argv);
+    const ProgramFolder folder;
+    const Driver::RunningProgram program;
+    Global::AutoDebug = Global::AutoProjectManager = false;
+    Row open{"open to painted", {}}, key{"typed character, in the middle", {}}, undo{"undo step", {}},
+        lower{"LowerCaseTags", {}}, save{"save", {}};
+    for (const int size : {100'000, 1'000'000, 10'000'000}) {
+        const QString path = folder.Write(u"seite.htm"_s, RealisticPage(size));
+        open.times.push_back(ProcessorMilliseconds([&] {
+            Documents::OpenFile(path);
+            QCoreApplication::processEvents();
+        }));
+        Txt_Code& box = *Shared<Frm_Code>().TextBox;
+        box.SetSelStart(box.Text().size() / 2);
+        QCoreApplication::processEvents();
+        constexpr int Keys = 50;
+        Driver::TypeCode(u"x"_s);
+        key.times.push_back(ProcessorMilliseconds([&] {
+                                for (int i = 0; i < Keys; ++i) Driver::TypeCode(i % 10 ? u"x"_s : u"<"_s);
+                            }) /
+                            Keys);
+        constexpr int Steps = 10;
+        undo.times.push_back(ProcessorMilliseconds([&] {
+                                 for (int i = 0; i < Steps; ++i) Driver::Trigger(u"Menu_Edit_Undo"_s);
+                             }) /
+                             Steps);
+        lower.times.push_back(ProcessorMilliseconds([&] {
+            QString page = box.Text();
+            CodeAccess::LowerCaseTags(page);
+        }));
+        save.times.push_back(ProcessorMilliseconds([] { Documents::Menu_File_Save_Click(); }));
+    }
+    std::printf("Processor milliseconds                0.1 MB        1 MB       10 MB   growth\n");
+    for (const Row& row : {open, key, undo, lower, save}) Print(row);
+    return 0;
+}
