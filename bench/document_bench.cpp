@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Opening, typing, changing tags and saving at three sizes, in the real program: processor time, and its growth from
-// size to size. A typed character is counted from the key to the painted window, with both its undo copies.
+// Opening, typing, changing tags and saving at three sizes, in the real program: processor time, and its
+// growth from size to size. A typed character is counted from the key to the painted window, with both its
+// undo copies.
 #include "documents/code_access.h"
 #include "documents/document_commands.h"
 #include "documents/frm_code.h"
@@ -11,8 +12,8 @@
 #include "support/program_folder.h"
 
 #include <QApplication>
-#include <ctime>
 #include <cstdio>
+#include <ctime>
 #include <functional>
 #include <vector>
 
@@ -26,9 +27,11 @@ double ProcessorMilliseconds(const std::function<void()>& work) {
 
 QByteArray RealisticPage(int bytes) {
     QByteArray page = "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\">\r\n<html><body>\r\n";
-    const QByteArray block = "<TABLE border=\"0\" width=\"100%\">\r\n  <TR>\r\n    <TD class=\"preis\">Gr\xFC" "ner Salat"
+    const QByteArray block = "<TABLE border=\"0\" width=\"100%\">\r\n  <TR>\r\n    <TD class=\"preis\">Gr\xFC"
+                             "ner Salat"
                              "</TD>\r\n    <TD align=\"right\">1,50&nbsp;EUR</TD>\r\n  </TR>\r\n</TABLE>\r\n"
-                             "<p>Der Verein l\xE4" "dt ein: am Samstag wird gepflanzt, am Sonntag gefeiert.<br>\r\n";
+                             "<p>Der Verein l\xE4"
+                             "dt ein: am Samstag wird gepflanzt, am Sonntag gefeiert.<br>\r\n";
     while (page.size() < bytes) page += block;
     return page + "</body></html>\r\n";
 }

@@ -71,14 +71,16 @@ namespace CodeAccess {
 
 void GoToLink(const QString& link) {
     if (link.isEmpty()) {
-        Dialogs::Tell(u"Fehler"_s, u"Unerwarteter Fehler beim Durchsuchen des Textes."_s, Dialogs::Icon::Critical);
+        Dialogs::Tell(u"Fehler"_s, u"Unerwarteter Fehler beim Durchsuchen des Textes."_s,
+                      Dialogs::Icon::Critical);
         return;
     }
     CodeBox* box = Neighbours::TheCodeBox();
     if (!box) return;
     const qsizetype at = Text::UpperCase(box->Text()).indexOf(Text::UpperCase(link));
     if (at < 0) {
-        Dialogs::Tell(u"ProjektManager"_s, u"Der Link kann nicht gefunden werden."_s, Dialogs::Icon::Exclamation);
+        Dialogs::Tell(u"ProjektManager"_s, u"Der Link kann nicht gefunden werden."_s,
+                      Dialogs::Icon::Exclamation);
         return;
     }
     box->SetSelStart(at);
@@ -88,8 +90,11 @@ void GoToLink(const QString& link) {
 
 namespace {
 
-// Where the name of the tag that begins at `tag` ends: its ">", or a blank before that; 0 when no ">" follows.
-qsizetype EndOfTagName(qsizetype close, qsizetype blank) { return blank != 0 && blank < close ? blank : close; }
+// Where the name of the tag that begins at `tag` ends: its ">", or a blank before that; 0 when no ">"
+// follows.
+qsizetype EndOfTagName(qsizetype close, qsizetype blank) {
+    return blank != 0 && blank < close ? blank : close;
+}
 
 QString ChangeTagCase(QString& page, QString (*change)(QStringView)) {
     Undo::PushUndo();
@@ -157,7 +162,8 @@ namespace {
 
 bool IsNumberChar(QChar c) { return RuntimeExtension::IsDigit(c) || c == u',' || c == u'.'; }
 
-// Position of the first character from `start` that belongs to no number; one behind the end if there is none.
+// Position of the first character from `start` that belongs to no number; one behind the end if there is
+// none.
 qsizetype EndOfNumber(QStringView text, qsizetype start) {
     qsizetype end = start;
     while (end <= text.size() && IsNumberChar(text[end - 1])) ++end;
@@ -195,8 +201,8 @@ void ManipulateNumbers(const QString& prefix) {
         return text;
     };
     const QString turnedPrefix = turned(prefix);
-    // The insertions move forward only: `done` is what lies behind, `rest` what lies ahead, turned around, so that
-    // both are worked on at their ends.
+    // The insertions move forward only: `done` is what lies behind, `rest` what lies ahead, turned around, so
+    // that both are worked on at their ends.
     QString done;
     QString rest = turned(selection);
     const auto step = [&] {
@@ -279,7 +285,8 @@ namespace {
 void AddVariables(DistinctList& names, const QString& declared) {
     if (declared.contains(u',')) {
         for (const QString& piece : QString(declared + u" ,").split(u',')) {
-            const QString name = Global::CutBefore(Library::RemoveChar(Library::RemoveChar(piece, u' '), u'\t'), u";"_s);
+            const QString name =
+                Global::CutBefore(Library::RemoveChar(Library::RemoveChar(piece, u' '), u'\t'), u";"_s);
             if (!name.isEmpty()) names.Add(name);
         }
         return;

@@ -37,18 +37,18 @@ QString RemoveChar(QString text, QChar character);
 
 namespace CodeAccess {
 
-// Selects the first occurrence of `link` in the code box, in any case, and brings the code window to the front;
-// tells in a message when there is none.
+// Selects the first occurrence of `link` in the code box, in any case, and brings the code window to the
+// front; tells in a message when there is none.
 void GoToLink(const QString& link);
 
-// Writes the names of all known tags of `page` in lower or upper case, in place, and returns it. Takes an undo
-// copy. A name that is merely part of a known one counts as known, and attributes are never touched; both are
-// meant.
+// Writes the names of all known tags of `page` in lower or upper case, in place, and returns it. Takes an
+// undo copy. A name that is merely part of a known one counts as known, and attributes are never touched;
+// both are meant.
 QString LowerCaseTags(QString& page);
 QString UpperCaseTags(QString& page);
 
-// Inserts the closing tag of the nearest open tag at or before `position` in the code box. Does nothing behind a
-// closing tag or inside a tag. There is no depth count.
+// Inserts the closing tag of the nearest open tag at or before `position` in the code box. Does nothing
+// behind a closing tag or inside a tag. There is no depth count.
 void CloseOpenTag(double position);
 
 enum class Calculation { Sum = 1, Average = 2, Count = 3 };

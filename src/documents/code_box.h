@@ -4,14 +4,15 @@
 #include <QString>
 
 // The code box as all tools know it: plain text and one selection. A line break counts as the two characters
-// CR LF everywhere. `SelStart` counts from 0, so SelStart + 1 is the one-based position of the character behind
-// the caret. Writing a SelStart or SelLength outside the text takes the nearest place; a negative one throws
-// RuntimeError.
+// CR LF everywhere. `SelStart` counts from 0, so SelStart + 1 is the one-based position of the character
+// behind the caret. Writing a SelStart or SelLength outside the text takes the nearest place; a negative one
+// throws RuntimeError.
 class CodeBox {
 public:
     virtual ~CodeBox() = default;
 
-    // The whole text. Built once per change and shared after that, so keeping or reading it again copies nothing.
+    // The whole text. Built once per change and shared after that, so keeping or reading it again copies
+    // nothing.
     virtual QString Text() const = 0;
     // Replaces the whole text (line ends are made full ones), leaves the caret at its start.
     virtual void SetText(const QString& text) = 0;
@@ -22,8 +23,8 @@ public:
     virtual void SetSelLength(qsizetype length) = 0; // extends from SelStart
 
     virtual QString SelText() const = 0;
-    // Replaces the selection and leaves the caret behind what was inserted. A caret between CR and LF splits the
-    // pair: both halves become full line breaks. Nothing written over nothing is no change.
+    // Replaces the selection and leaves the caret behind what was inserted. A caret between CR and LF splits
+    // the pair: both halves become full line breaks. Nothing written over nothing is no change.
     virtual void SetSelText(const QString& text) = 0;
 
     // Reads a file into the box as plain text; returns whether it could be read.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Characters that the text widget's document takes for its own marks. They stand in it as lone surrogates, which
-// no well-formed text holds.
+// Characters that the text widget's document takes for its own marks. They stand in it as lone surrogates,
+// which no well-formed text holds.
 #pragma once
 
 #include <QString>

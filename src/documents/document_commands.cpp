@@ -62,7 +62,8 @@ void FailToOpen() {
     // The text that was open stays in HeldSource when its window goes.
     if (Global::CodeWindowOpen) Neighbours::UnloadWindow(u"Frm_Code"_s);
     if (Global::BrowserOpen) Neighbours::UnloadWindow(u"Frm_Browser"_s);
-    TellError(u"Fehler beim Laden der Datei. Stellen Sie sicher, dass die Datei existiert und nicht geschützt ist."_s);
+    TellError(
+        u"Fehler beim Laden der Datei. Stellen Sie sicher, dass die Datei existiert und nicht geschützt ist."_s);
 }
 
 bool OpenPicture(const QString& path) {
@@ -105,7 +106,8 @@ bool OpenText(const QString& path, bool preview) {
         Neighbours::FocusCode();
     }
     SetType(DocumentFile::TypeOnOpen(document->text, Global::CurrentExtension),
-            u"Huston, wir haben ein Problem. Der Dokumenttyp konnte nicht ermittelt werden. Die Datei wird als Text "
+            u"Huston, wir haben ein Problem. Der Dokumenttyp konnte nicht ermittelt werden. Die Datei wird "
+            u"als Text "
             "geöffnet."_s);
     RefreshWindows();
     return true;
@@ -120,10 +122,15 @@ void SetFormat(const CodePage::Format& format) {
 
 bool AskToSave(const QString& title, SaveFirst save) {
     if (!Global::DocChanged) return true;
-    switch (Dialogs::MsgBox({title, UnsavedQuestion, Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel})) {
-    case Answer::Yes: Menu_File_Save_Click(); return save == SaveFirst::MayFail || Global::SaveSucceeded;
-    case Answer::No: return true;
-    default: return false;
+    switch (
+        Dialogs::MsgBox({title, UnsavedQuestion, Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel})) {
+    case Answer::Yes:
+        Menu_File_Save_Click();
+        return save == SaveFirst::MayFail || Global::SaveSucceeded;
+    case Answer::No:
+        return true;
+    default:
+        return false;
     }
 }
 
@@ -253,7 +260,8 @@ void Menu_File_SaveAs() {
     if (path.isEmpty()) return;
     if (Files::CanRead(path)) {
         const Answer answer = Dialogs::MsgBox(
-            {u"Speichern"_s, u"Eine Datei mit diesem Namen existiert bereits.\rSoll sie überschrieben werden?"_s,
+            {u"Speichern"_s,
+             u"Eine Datei mit diesem Namen existiert bereits.\rSoll sie überschrieben werden?"_s,
              Dialogs::Icon::Question, Dialogs::Buttons::YesNo, Answer::No});
         if (answer != Answer::Yes) return;
     }

@@ -12,8 +12,8 @@ namespace Documents {
 void SetFormat(const CodePage::Format& format);
 
 enum class SaveFirst { MustSucceed, MayFail };
-// Asks under `title` whether unsaved changes are to be saved, and saves them. Returns whether the command may go
-// on: yes without changes and for the answer no, never for cancel, and after saving as told by `save`.
+// Asks under `title` whether unsaved changes are to be saved, and saves them. Returns whether the command may
+// go on: yes without changes and for the answer no, never for cancel, and after saving as told by `save`.
 bool AskToSave(const QString& title, SaveFirst save);
 
 // Loads a file. `preview` asks for the browser view; it becomes false where the settings do not want it.

@@ -76,10 +76,10 @@ QString TypeOnSave(const QString& text, const QString& extension) {
 }
 
 QString PanelText(const QString& type) {
-    static const QHash<QString, QString> texts{
-        {u"HTML"_s, u"HTML"_s},         {u"XHTML"_s, u"XHTML"_s},    {u"WML"_s, u"WAP"_s},
-        {u"JS"_s, u"JavaScript"_s},     {u"VBS"_s, u"VBScript"_s},   {u"CSS"_s, u"StyleSheet"_s},
-        {u"Text"_s, u"Text"_s},         {u"IMG"_s, u"Bild"_s}};
+    static const QHash<QString, QString> texts{{u"HTML"_s, u"HTML"_s},    {u"XHTML"_s, u"XHTML"_s},
+                                               {u"WML"_s, u"WAP"_s},      {u"JS"_s, u"JavaScript"_s},
+                                               {u"VBS"_s, u"VBScript"_s}, {u"CSS"_s, u"StyleSheet"_s},
+                                               {u"Text"_s, u"Text"_s},    {u"IMG"_s, u"Bild"_s}};
     return texts.value(type);
 }
 

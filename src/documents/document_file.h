@@ -15,12 +15,12 @@ std::optional<CodePage::Decoded> Load(const QString& path);
 // The same without touching the line ends, for files that are no text.
 std::optional<CodePage::Decoded> LoadRaw(const QString& path);
 
-// Writes `text` followed by one CR LF in `format`, which is changed when the text no longer fits its encoding.
-// Returns whether it worked; on failure the old file is whole.
+// Writes `text` followed by one CR LF in `format`, which is changed when the text no longer fits its
+// encoding. Returns whether it worked; on failure the old file is whole.
 bool Save(const QString& path, const QString& text, CodePage::Format& format);
 
-// `text` without its last line, where that line holds nothing but blanks and control characters; and without one
-// more line break where the line before it is empty, too.
+// `text` without its last line, where that line holds nothing but blanks and control characters; and without
+// one more line break where the line before it is empty, too.
 QString TrimTail(const QString& text);
 
 // Whether the extension (any case) is that of a picture that the preview shows.

@@ -39,8 +39,9 @@ const Tool Tools[] = {{u"Frm_TagTools", &Global::TagToolOpen, &Global::TagToolPo
 } // namespace
 
 Frm_Code::Frm_Code()
-    : TextBox(new Txt_Code(this)), Pic_ToolBar(new QWidget(this)), Cmb_Functions(new DropDownList(Pic_ToolBar)),
-      Cmb_Variables(new DropDownList(Pic_ToolBar)), Tlb_JavaScript(new QToolBar(Pic_ToolBar)) {
+    : TextBox(new Txt_Code(this)), Pic_ToolBar(new QWidget(this)),
+      Cmb_Functions(new DropDownList(Pic_ToolBar)), Cmb_Variables(new DropDownList(Pic_ToolBar)),
+      Tlb_JavaScript(new QToolBar(Pic_ToolBar)) {
     setObjectName(u"Frm_Code"_s);
     setFocusProxy(TextBox);
     Pic_ToolBar->setObjectName(u"Pic_ToolBar"_s);
@@ -119,11 +120,14 @@ void Frm_Code::LoadAssistantHelp() {
     AssistantHelpText = Lists::ReadLinesJoined(u"assistant.hlp"_s).value_or(QString());
 }
 
-void Frm_Code::LoadAttributeText() { AttributeText = Lists::ReadLinesJoined(u"attribute.lst"_s).value_or(QString()); }
+void Frm_Code::LoadAttributeText() {
+    AttributeText = Lists::ReadLinesJoined(u"attribute.lst"_s).value_or(QString());
+}
 
 void Frm_Code::LoadScriptObjects() { ScriptObjectText = Lists::ReadScriptObjects(); }
 
-// --- events of the code box ---------------------------------------------------------------------------------------
+// --- events of the code box
+// ---------------------------------------------------------------------------------------
 
 void Frm_Code::Code_Change() {
     if (Global::SkipUndoOnChange) {
@@ -140,9 +144,7 @@ void Frm_Code::Code_Change() {
     if (Commands::IsChecked(u"Menu_Tools_AutoUml"_s)) Neighbours::SubstituteUmlauts();
 }
 
-void Frm_Code::Code_KeyDown(int key, int shift) {
-    Neighbours::CodeKeyDown(key, shift);
-}
+void Frm_Code::Code_KeyDown(int key, int shift) { Neighbours::CodeKeyDown(key, shift); }
 
 void Frm_Code::CheckOnce() {
     if (SyntaxChecked || !Global::DebuggerOpen) return;
@@ -169,7 +171,8 @@ void Frm_Code::GetCursorPos() {
     Neighbours::SetStatusPanel(ColumnPanel, u"Sp "_s + QString::number(caret - start + 1));
 }
 
-// --- place --------------------------------------------------------------------------------------------------------
+// --- place
+// --------------------------------------------------------------------------------------------------------
 
 void Frm_Code::ActivateToolBar() {
     if (ScriptBarShown) m_codeTop = ScriptBarHeight;
@@ -186,8 +189,8 @@ void Frm_Code::ActivateToolBar() {
         m_codeTop = 0;
     }
     const bool previewed = caption == u"HTML Code";
-    for (const QString& name : {u"Menu_View_Browser_Once"_s, u"Menu_View_Browser_Temp"_s, u"ToolBar_Browser_Once"_s,
-                                u"ToolBar_Browser_Temp"_s}) {
+    for (const QString& name : {u"Menu_View_Browser_Once"_s, u"Menu_View_Browser_Temp"_s,
+                                u"ToolBar_Browser_Once"_s, u"ToolBar_Browser_Temp"_s}) {
         Commands::SetEnabled(name, previewed);
     }
     LayOut();

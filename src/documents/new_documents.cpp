@@ -67,10 +67,11 @@ void CreateNewXHTMLFile() { Create({u"XHTML"_s, u"XHTML"_s, u"XHTML"_s, Template
 void CreateNewWMLFile() {
     Create({u"WML"_s, u"WML"_s, u"WML"_s, Templates::Wml()});
     if (!Global::AssistantOpen) return;
-    Neighbours::RunAnimation(
-        1, u"Sie erstellen eine WAP-Seite. Beachten Sie, dass Sie nicht einfach alle HTML-Regeln übernehmen dürfen. "
-           "Die Syntax für WAP-Sites ist etwas anders. Sie können eine WAP-Site testen, indem Sie im Menü 'Ansicht' "
-           "auf 'Vorschau' & 'WAP-Simulation' klicken."_s);
+    Neighbours::RunAnimation(1, u"Sie erstellen eine WAP-Seite. Beachten Sie, dass Sie nicht einfach alle "
+                                u"HTML-Regeln übernehmen dürfen. "
+                                "Die Syntax für WAP-Sites ist etwas anders. Sie können eine WAP-Site testen, "
+                                "indem Sie im Menü 'Ansicht' "
+                                "auf 'Vorschau' & 'WAP-Simulation' klicken."_s);
 }
 
 void CreateNewJavaScript() { Create({u"JS"_s, u"JavaScript"_s, u"JavaScript"_s, {}}); }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// New documents of each kind. Each routine replaces the document that is there without asking; the menu commands
-// ask about unsaved changes first.
+// New documents of each kind. Each routine replaces the document that is there without asking; the menu
+// commands ask about unsaved changes first.
 #pragma once
 
 namespace Documents {

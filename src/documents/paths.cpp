@@ -46,7 +46,8 @@ QString ResolveLink(const QString& relative, const QString& base) {
         const qsizetype end = folder.lastIndexOf(u'\\');
         const qsizetype parent = end > 0 ? folder.lastIndexOf(u'\\', end - 1) : -1;
         if (parent < 0) {
-            Events::Sleep(1); // nothing can change any more; the second until the message is part of the routine
+            Events::Sleep(
+                1); // nothing can change any more; the second until the message is part of the routine
             Dialogs::Tell(u"Fehler"_s, u"Beim Konvertieren eines Pfades ist ein Fehler aufgetreten."_s,
                           Dialogs::Icon::Critical);
             return {};
@@ -60,7 +61,8 @@ QString ResolveLink(const QString& relative, const QString& base) {
 QString RelativePathOf(const QString& target, const QString& base) {
     constexpr qsizetype LongestRest = 255;
     const qsizetype shorter = std::min(target.size(), base.size());
-    const qsizetype agreed = std::mismatch(base.cbegin(), base.cbegin() + shorter, target.cbegin()).first - base.cbegin();
+    const qsizetype agreed =
+        std::mismatch(base.cbegin(), base.cbegin() + shorter, target.cbegin()).first - base.cbegin();
     const qsizetype passed = QStringView(base).first(agreed).count(u'\\');
     const qsizetype folder = QStringView(base).first(agreed).lastIndexOf(u'\\') + 1;
     const qsizetype steps = QStringView(base).count(u'\\') - passed;

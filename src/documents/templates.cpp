@@ -46,8 +46,16 @@ QString Wml(const PageInfo& page) {
                       "\"http://www.wapforum.org/DTD/wml_1.1.xml\">"_s,
                       u"<wml>"_s, u"   <head>"_s};
     lines << MetaTags(page, u"      "_s, u"/>"_s)
-          << QStringList{u"   </head>"_s, u"   <card id=\"\" title=\"\">"_s, u"      <p>"_s, {}, {}, {},
-                         u"      </p>"_s, u"   </card>"_s, u"</wml>"_s, {}};
+          << QStringList{u"   </head>"_s,
+                         u"   <card id=\"\" title=\"\">"_s,
+                         u"      <p>"_s,
+                         {},
+                         {},
+                         {},
+                         u"      </p>"_s,
+                         u"   </card>"_s,
+                         u"</wml>"_s,
+                         {}};
     return lines.join(u"\r\n"_s);
 }
 

@@ -27,8 +27,8 @@ void TextBuffer::SetSelLength(qsizetype length) {
 
 void TextBuffer::SetSelText(const QString& text) {
     if (text.isEmpty() && m_length == 0) return;
-    // Each part is completed on its own: a CR before the selection and an LF behind it are halves of pairs that
-    // the selection cuts.
+    // Each part is completed on its own: a CR before the selection and an LF behind it are halves of pairs
+    // that the selection cuts.
     const QString before = Text::WithFullLineBreaks(QStringView(m_text).first(m_start));
     const QString inserted = Text::WithFullLineBreaks(text);
     const QString after = Text::WithFullLineBreaks(QStringView(m_text).sliced(m_start + m_length));
@@ -45,7 +45,9 @@ bool TextBuffer::LoadFile(const QString& path) {
 }
 
 qsizetype TextBuffer::LineFromChar(qsizetype position) {
-    return QStringView(m_text).first(std::clamp<qsizetype>(position, 0, m_text.size())).count(Text::LineBreak);
+    return QStringView(m_text)
+        .first(std::clamp<qsizetype>(position, 0, m_text.size()))
+        .count(Text::LineBreak);
 }
 
 qsizetype TextBuffer::LineIndex(qsizetype line) {

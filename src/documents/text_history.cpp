@@ -19,7 +19,9 @@ QString TextHistory::Apply(const QString& newer, const Difference& difference) {
     const QStringView view(newer);
     QString older;
     older.reserve(difference.prefix + difference.middle.size() + difference.suffix);
-    return older.append(view.first(difference.prefix)).append(difference.middle).append(view.last(difference.suffix));
+    return older.append(view.first(difference.prefix))
+        .append(difference.middle)
+        .append(view.last(difference.suffix));
 }
 
 void TextHistory::Push(const QString& text, int depth) {

@@ -4,8 +4,8 @@
 #include <QString>
 #include <deque>
 
-// A stack of texts of which neighbours differ little: the newest stands whole, each older one as its difference
-// to the next newer. So 64 copies of a large page cost little more than one.
+// A stack of texts of which neighbours differ little: the newest stands whole, each older one as its
+// difference to the next newer. So 64 copies of a large page cost little more than one.
 class TextHistory {
 public:
     int Count() const { return m_empty ? 0 : static_cast<int>(m_older.size()) + 1; }
@@ -21,8 +21,8 @@ public:
     void Clear();
 
 private:
-    // How an older text comes from the next newer one: its first `prefix` and last `suffix` characters stay, and
-    // `middle` stands between them.
+    // How an older text comes from the next newer one: its first `prefix` and last `suffix` characters stay,
+    // and `middle` stands between them.
     struct Difference {
         qsizetype prefix;
         qsizetype suffix;

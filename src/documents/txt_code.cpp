@@ -32,7 +32,8 @@ Txt_Code::Txt_Code(QWidget* parent) : QPlainTextEdit(parent) {
     connect(this, &QPlainTextEdit::selectionChanged, this, &Txt_Code::FireSelChange);
 }
 
-// --- text -------------------------------------------------------------------------------------------------------
+// --- text
+// -------------------------------------------------------------------------------------------------------
 
 void Txt_Code::TakeDocumentChange(int position, int removed, int added) {
     m_changed = true;
@@ -96,7 +97,8 @@ void Txt_Code::SetText(const QString& text) {
         setTextCursor(cursor);
         verticalScrollBar()->setValue(scroll);
         // whoever has set no caret by then sees the text from its start
-        QMetaObject::invokeMethod(this, [this] { ensureCursorVisible(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { ensureCursorVisible(); }, Qt::QueuedConnection);
     } else {
         m_replacing = true;
         setPlainText(DocumentCharacters::Hidden(whole));
@@ -116,7 +118,8 @@ bool Txt_Code::LoadFile(const QString& path) {
     return loaded.has_value();
 }
 
-// --- selection --------------------------------------------------------------------------------------------------
+// --- selection
+// --------------------------------------------------------------------------------------------------
 
 // A block begins at its place in the document plus one for each line break before it.
 qsizetype Txt_Code::ToText(int documentPosition) const {
@@ -153,7 +156,9 @@ void Txt_Code::Select(DocumentPlace anchor, DocumentPlace caret) {
     if (events.selChange) events.selChange();
 }
 
-qsizetype Txt_Code::SelStart() const { return ToText(textCursor().selectionStart()) + (m_startInsideBreak ? 1 : 0); }
+qsizetype Txt_Code::SelStart() const {
+    return ToText(textCursor().selectionStart()) + (m_startInsideBreak ? 1 : 0);
+}
 
 void Txt_Code::SetSelStart(qsizetype start) {
     if (start < 0) throw RuntimeError("SelStart below 0");
@@ -192,21 +197,24 @@ void Txt_Code::SetSelText(const QString& text) {
     FireSelChange();
 }
 
-// --- visual lines -----------------------------------------------------------------------------------------------
+// --- visual lines
+// -----------------------------------------------------------------------------------------------
 
-// The widget lays lines out only as they come into sight and counts one line for the others. Those that may wrap
-// are laid out here; a line that is surely shorter than the box is not touched.
+// The widget lays lines out only as they come into sight and counts one line for the others. Those that may
+// wrap are laid out here; a line that is surely shorter than the box is not touched.
 void Txt_Code::MeasureLines(int upToBlock) {
     if (m_measuredBlocks > upToBlock) return;
     const double advance = fontMetrics().horizontalAdvance(u'M');
-    const auto fitting = static_cast<qsizetype>((viewport()->width() - 2 * document()->documentMargin()) / advance);
+    const auto fitting =
+        static_cast<qsizetype>((viewport()->width() - 2 * document()->documentMargin()) / advance);
     const auto tabColumns = static_cast<qsizetype>(tabStopDistance() / advance);
     QTextBlock block = document()->findBlockByNumber(m_measuredBlocks);
     for (; block.isValid() && block.blockNumber() <= upToBlock; block = block.next()) {
         const qsizetype length = block.length() - 1;
         bool wraps = length > fitting;
         if (!wraps && length * tabColumns > fitting) {
-            const QStringView line = QStringView(m_text).sliced(block.position() + block.blockNumber(), length);
+            const QStringView line =
+                QStringView(m_text).sliced(block.position() + block.blockNumber(), length);
             qsizetype columns = 0;
             for (const QChar c : line) columns += c == u'\t' ? tabColumns : c.unicode() < 0x300 ? 1 : 2;
             wraps = columns > fitting;

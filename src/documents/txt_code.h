@@ -30,12 +30,13 @@ public:
     // Position of the character at a place of the box, in twips relative to it.
     qsizetype CharFromPlace(double x, double y) const;
 
-    // Events. Key codes are the numbers of the keys as key combinations count them ("A" 65, "0" 48, Enter 13);
-    // shift masks: 1 Shift, 2 Control, 4 Alt; buttons: 1 left, 2 right; places in twips relative to the box.
+    // Events. Key codes are the numbers of the keys as key combinations count them ("A" 65, "0" 48, Enter
+    // 13); shift masks: 1 Shift, 2 Control, 4 Alt; buttons: 1 left, 2 right; places in twips relative to the
+    // box.
     struct Events {
-        std::function<void()> change;             // behind every change of the text
-        std::function<void(int, int)> keyDown;    // before the box acts on the key
-        std::function<void(int, int)> keyUp;      // behind that
+        std::function<void()> change;          // behind every change of the text
+        std::function<void(int, int)> keyDown; // before the box acts on the key
+        std::function<void(int, int)> keyUp;   // behind that
         std::function<void(int, int, double, double)> mouseDown;
         std::function<void(double, double)> mouseMove;
         std::function<void()> selChange; // caret or selection moved
@@ -79,7 +80,7 @@ private:
     QString m_text; // the whole text, kept in step with the document
     bool m_startInsideBreak = false;
     bool m_endInsideBreak = false;
-    bool m_writing = false;  // a change by program; its events come when it is done
+    bool m_writing = false;   // a change by program; its events come when it is done
     bool m_replacing = false; // the whole document is being set
     bool m_changed = false;
     int m_measuredBlocks = 0; // blocks from the start whose number of lines is exact

@@ -25,17 +25,18 @@ int Txt_Code::KeyNumber(const QKeyEvent& event) {
     if (key >= Qt::Key_A && key <= Qt::Key_Z) return 65 + key - Qt::Key_A;
     if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return 112 + key - Qt::Key_F1;
     static const QHash<int, int> numbers{
-        {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},        {Qt::Key_Backtab, 9},  {Qt::Key_Return, 13},
-        {Qt::Key_Enter, 13},    {Qt::Key_Shift, 16},     {Qt::Key_Control, 17}, {Qt::Key_Alt, 18},
-        {Qt::Key_Escape, 27},   {Qt::Key_Space, 32},     {Qt::Key_PageUp, 33},  {Qt::Key_PageDown, 34},
-        {Qt::Key_End, 35},      {Qt::Key_Home, 36},      {Qt::Key_Left, 37},    {Qt::Key_Up, 38},
-        {Qt::Key_Right, 39},    {Qt::Key_Down, 40},      {Qt::Key_Insert, 45},  {Qt::Key_Delete, 46},
-        {Qt::Key_Plus, 187},    {Qt::Key_Comma, 188},    {Qt::Key_Minus, 189},  {Qt::Key_Period, 190}};
+        {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},     {Qt::Key_Backtab, 9},  {Qt::Key_Return, 13},
+        {Qt::Key_Enter, 13},    {Qt::Key_Shift, 16},  {Qt::Key_Control, 17}, {Qt::Key_Alt, 18},
+        {Qt::Key_Escape, 27},   {Qt::Key_Space, 32},  {Qt::Key_PageUp, 33},  {Qt::Key_PageDown, 34},
+        {Qt::Key_End, 35},      {Qt::Key_Home, 36},   {Qt::Key_Left, 37},    {Qt::Key_Up, 38},
+        {Qt::Key_Right, 39},    {Qt::Key_Down, 40},   {Qt::Key_Insert, 45},  {Qt::Key_Delete, 46},
+        {Qt::Key_Plus, 187},    {Qt::Key_Comma, 188}, {Qt::Key_Minus, 189},  {Qt::Key_Period, 190}};
     return numbers.value(key, 0);
 }
 
 bool Txt_Code::event(QEvent* event) {
-    // An enabled menu shortcut wins over the box's own use of the key; without one the key arrives all the same.
+    // An enabled menu shortcut wins over the box's own use of the key; without one the key arrives all the
+    // same.
     if (event->type() == QEvent::ShortcutOverride) {
         event->ignore();
         return false;
@@ -50,7 +51,8 @@ void Txt_Code::keyPressEvent(QKeyEvent* event) {
         return;
     }
     // Shift+Enter is an Enter: the soft break that it would make is no line end of a file.
-    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && event->modifiers() & Qt::ShiftModifier) {
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
+        event->modifiers() & Qt::ShiftModifier) {
         QKeyEvent enter(event->type(), event->key(), event->modifiers() & ~Qt::ShiftModifier, event->text(),
                         event->isAutoRepeat());
         QPlainTextEdit::keyPressEvent(&enter);
@@ -61,7 +63,8 @@ void Txt_Code::keyPressEvent(QKeyEvent* event) {
 
 void Txt_Code::keyReleaseEvent(QKeyEvent* event) {
     QPlainTextEdit::keyReleaseEvent(event);
-    if (!event->isAutoRepeat() && events.keyUp) events.keyUp(KeyNumber(*event), ShiftMask(event->modifiers()));
+    if (!event->isAutoRepeat() && events.keyUp)
+        events.keyUp(KeyNumber(*event), ShiftMask(event->modifiers()));
 }
 
 QPointF Txt_Code::PlaceOf(const QPointF& viewportPoint) const {
@@ -72,7 +75,8 @@ void Txt_Code::mousePressEvent(QMouseEvent* event) {
     const QPointF place = PlaceOf(event->position());
     const int button = event->button() == Qt::LeftButton ? 1 : event->button() == Qt::RightButton ? 2 : 4;
     if (button == 2) {
-        // A right click beside the selection moves the caret to the mouse, so that it speaks of what it points at.
+        // A right click beside the selection moves the caret to the mouse, so that it speaks of what it
+        // points at.
         const QTextCursor under = cursorForPosition(event->position().toPoint());
         const QTextCursor present = textCursor();
         if (under.position() < present.selectionStart() || under.position() > present.selectionEnd()) {

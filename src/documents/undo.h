@@ -17,8 +17,8 @@ inline QString UndoTouched;
 void PushUndo();
 // Brings back the text before the present one; does nothing at the oldest copy.
 void UndoStep();
-// Brings back the oldest copy of a full ring, and otherwise only disables itself. This is meant: the enabling of
-// the commands depends on it.
+// Brings back the oldest copy of a full ring, and otherwise only disables itself. This is meant: the enabling
+// of the commands depends on it.
 void RedoStep();
 // Forgets all copies.
 void UndoClear();

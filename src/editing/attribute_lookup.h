@@ -9,8 +9,8 @@
 namespace AttributeLookup {
 
 struct Tag {
-    qsizetype start = 0;      // one-based position of its "<"
-    qsizetype nameLength = 0; // of "<" and the name
+    qsizetype start = 0;       // one-based position of its "<"
+    qsizetype nameLength = 0;  // of "<" and the name
     bool closedAtName = false; // the name ended at ">" and not at a blank
     QString name;              // without a slash at its end
 };

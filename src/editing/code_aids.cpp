@@ -46,9 +46,14 @@ void WatchTag() {
 void KeyUp(int key, int shift) {
     if (!Present().list) return;
     switch (KeyHandling::KeyUp(key, shift)) {
-    case KeyHandling::Wish::CompleteWord: Present().list->OpenAutoWord(-1); break;
-    case KeyHandling::Wish::ShowMembers: Present().list->ShowMembersAtDot(); break;
-    case KeyHandling::Wish::None: break;
+    case KeyHandling::Wish::CompleteWord:
+        Present().list->OpenAutoWord(-1);
+        break;
+    case KeyHandling::Wish::ShowMembers:
+        Present().list->ShowMembersAtDot();
+        break;
+    case KeyHandling::Wish::None:
+        break;
     }
 }
 

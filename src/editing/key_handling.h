@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What keys do in the code box besides what the box does with them. The steps of each handler run in their order, each
-// on its own; one that fails is passed over.
+// What keys do in the code box besides what the box does with them. The steps of each handler run in their
+// order, each on its own; one that fails is passed over.
 #pragma once
 
 class CodeBox;

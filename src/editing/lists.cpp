@@ -12,7 +12,9 @@ namespace {
 
 const QString BlockEnd = QStringLiteral("<e-");
 
-std::optional<QString> ReadList(const QString& fileName) { return Files::ReadProgramText(Files::ProgramFile(fileName)); }
+std::optional<QString> ReadList(const QString& fileName) {
+    return Files::ReadProgramText(Files::ProgramFile(fileName));
+}
 
 } // namespace
 

@@ -18,8 +18,8 @@ void LoadEventNames();
 // The message for one of the list files that is missing or broken.
 void TellBroken(const QString& fileName);
 
-// Reads a file's tokens: one ends at a comma or a line end, leading blanks are dropped, and one in double quotes
-// keeps its commas and loses the quotes. A line end behind a comma adds no empty token.
+// Reads a file's tokens: one ends at a comma or a line end, leading blanks are dropped, and one in double
+// quotes keeps its commas and loses the quotes. A line end behind a comma adds no empty token.
 class TokenReader {
 public:
     explicit TokenReader(QString text) : m_text(std::move(text)) {}
@@ -40,8 +40,8 @@ std::optional<QString> ReadLinesJoined(const QString& fileName);
 // The same, of the lines alone that describe script objects.
 QString ReadScriptObjects();
 
-// One-based position where the entries of the block `name` begin in `text`: behind the first "-" name "-" in any
-// case and one further character. 0 when there is none.
+// One-based position where the entries of the block `name` begin in `text`: behind the first "-" name "-" in
+// any case and one further character. 0 when there is none.
 qsizetype BlockStart(const QString& text, const QString& name);
 // The entries of the block from `start` on; the last one counts only if a comma ends it.
 QStringList BlockEntries(const QString& text, qsizetype start);
@@ -49,8 +49,8 @@ QStringList BlockEntries(const QString& text, qsizetype start);
 // The help text of the tag `name` in the joined help file, in its own case; nothing without an entry.
 std::optional<QString> HelpText(const QString& help, const QString& name);
 
-// Replaces `token` in `text` by what it stands for. The one token that stands for something is "#mns#", a minus
-// sign; no other may be passed that occurs in the text.
+// Replaces `token` in `text` by what it stands for. The one token that stands for something is "#mns#", a
+// minus sign; no other may be passed that occurs in the text.
 QString DecodeListToken(QString text, const QString& token);
 
 } // namespace Lists

@@ -32,7 +32,8 @@ QString IconOf(const QString& key) {
 
 } // namespace
 
-PopupList::PopupList(Frm_Code* window) : QListWidget(window), m_window(window), Pic_Shadow(new QFrame(window)) {
+PopupList::PopupList(Frm_Code* window)
+    : QListWidget(window), m_window(window), Pic_Shadow(new QFrame(window)) {
     setObjectName(u"Lvw_Attributes"_s);
     setAccessibleName(u"Vorschläge"_s);
     Pic_Shadow->setObjectName(u"Pic_Shadow"_s);
@@ -67,7 +68,8 @@ void PopupList::AddEntry(const QString& text, const QString& icon, const QString
     }
 }
 
-// --- what is offered ------------------------------------------------------------------------------------------------
+// --- what is offered
+// ------------------------------------------------------------------------------------------------
 
 void PopupList::LeftClick() {
     Hide();
@@ -103,8 +105,7 @@ void PopupList::RightClick(double x, double y) {
     }
     // Beside a tag the menu still has its own entries.
     if (Global::UseWindowsMenu) {
-        const QPoint place =
-            m_window->TextBox->mapToGlobal(QPoint(Twips::ToPixels(x), Twips::ToPixels(y)));
+        const QPoint place = m_window->TextBox->mapToGlobal(QPoint(Twips::ToPixels(x), Twips::ToPixels(y)));
         Neighbours::PopupCodeMenu(place.x(), place.y());
     }
 }
@@ -173,7 +174,8 @@ void PopupList::OpenAutoWord(double offset) {
     });
 }
 
-// --- place ------------------------------------------------------------------------------------------------------------
+// --- place
+// ------------------------------------------------------------------------------------------------------------
 
 void PopupList::SetPlace(double x, double y) {
     const int frame = 2 * frameWidth();
@@ -216,7 +218,8 @@ void PopupList::TakeKeyboard() {
     setFocus();
 }
 
-// --- choosing ---------------------------------------------------------------------------------------------------------
+// --- choosing
+// ---------------------------------------------------------------------------------------------------------
 
 void PopupList::InsertAttribute(const QString& text) {
     Txt_Code& box = *m_window->TextBox;
@@ -274,14 +277,19 @@ void PopupList::keyPressEvent(QKeyEvent* event) {
     };
     switch (event->key()) {
     case Qt::Key_Return:
-    case Qt::Key_Enter: Choose(currentItem()); return;
+    case Qt::Key_Enter:
+        Choose(currentItem());
+        return;
     case Qt::Key_Up:
     case Qt::Key_Down:
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
     case Qt::Key_Home:
-    case Qt::Key_End: QListWidget::keyPressEvent(event); return;
-    default: break;
+    case Qt::Key_End:
+        QListWidget::keyPressEvent(event);
+        return;
+    default:
+        break;
     }
     const QString typed = event->text();
     if (event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier)) {

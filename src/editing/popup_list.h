@@ -9,8 +9,8 @@
 
 class Frm_Code;
 
-// The one popup list of the document window, Lvw_Attributes, with its shadow. It offers attributes of a tag, words for
-// the selection, members of a script object or continuations of a word. All places in twips.
+// The one popup list of the document window, Lvw_Attributes, with its shadow. It offers attributes of a tag,
+// words for the selection, members of a script object or continuations of a word. All places in twips.
 class PopupList : public QListWidget {
     Q_OBJECT
 

@@ -66,7 +66,8 @@ void Attach(Frm_Code& window) {
 }
 
 void InsertCurrentVariable(Frm_Code& window) {
-    if (!window.Cmb_Variables->currentText().isEmpty()) InsertVariable(window, window.Cmb_Variables->currentText());
+    if (!window.Cmb_Variables->currentText().isEmpty())
+        InsertVariable(window, window.Cmb_Variables->currentText());
 }
 
 } // namespace ScriptBar

@@ -7,9 +7,9 @@
 
 namespace ScriptMembers {
 
-// The object's name as the list of script objects has it: the name before the dot itself, or the type that the text
-// creates it with (name = new Type(...)). Empty when there is none. `selStart` from 0, behind the dot; `objects` is
-// the joined list.
+// The object's name as the list of script objects has it: the name before the dot itself, or the type that
+// the text creates it with (name = new Type(...)). Empty when there is none. `selStart` from 0, behind the
+// dot; `objects` is the joined list.
 QString ObjectBeforeDot(const QString& text, qsizetype selStart, const QString& objects);
 
 struct Member {

@@ -17,8 +17,9 @@ std::optional<Remark> JudgeTag(QStringView typed, QChar last, const QString& hel
     const auto cut = std::find_if(typed.begin(), typed.end(), [](QChar c) { return c == u'>' || c == u' '; });
     const QString tag = typed.first(cut - typed.begin()).toString();
     if (tag.isEmpty()) {
-        return Remark{Warning, u"Haaalt, so etwas gibt es nicht. Nach einem Kleiner-Zeichen beginnt sofort der Name "
-                               "des Tag's"_s};
+        return Remark{Warning,
+                      u"Haaalt, so etwas gibt es nicht. Nach einem Kleiner-Zeichen beginnt sofort der Name "
+                      "des Tag's"_s};
     }
     if (Lists::IsKnownTag(tag)) {
         const auto text = Lists::HelpText(help, tag);
@@ -26,8 +27,10 @@ std::optional<Remark> JudgeTag(QStringView typed, QChar last, const QString& hel
     }
     // without its last character "br/" passes as "br"
     if (last != u'>' || Lists::IsKnownTag(tag.chopped(1))) return std::nullopt;
-    return Remark{Warning, u"Diesen Tag kenne ich nicht. Überprüfen Sie, ob Sie ihn richtig geschrieben haben. "
-                           "Falscher Tag: <"_s + tag + u'>'};
+    return Remark{Warning,
+                  u"Diesen Tag kenne ich nicht. Überprüfen Sie, ob Sie ihn richtig geschrieben haben. "
+                  "Falscher Tag: <"_s +
+                      tag + u'>'};
 }
 
 } // namespace
@@ -35,7 +38,8 @@ std::optional<Remark> JudgeTag(QStringView typed, QChar last, const QString& hel
 std::optional<Remark> Watch(const QString& text, qsizetype selStart, const QString& help) {
     if (selStart < 2) return std::nullopt;
     const QChar last = text[selStart - 1];
-    const qsizetype open = last == u'<' || last == u' ' || last == u'>' ? Text::FindBack(text, u"<", selStart - 1) : 0;
+    const qsizetype open =
+        last == u'<' || last == u' ' || last == u'>' ? Text::FindBack(text, u"<", selStart - 1) : 0;
     if (open == 0) return std::nullopt;
     if (last == u'<') {
         if (Text::FindBack(text, u">", selStart - 1) > open) return std::nullopt;

@@ -5,8 +5,8 @@ class CodeBox;
 
 namespace Umlauts {
 
-// Turns an umlaut just before the caret into "ae" and the like, or, behind a "&", into the rest of its entity. Costs
-// two changes of the text, and so two undo steps.
+// Turns an umlaut just before the caret into "ae" and the like, or, behind a "&", into the rest of its
+// entity. Costs two changes of the text, and so two undo steps.
 void SubstituteUmlauts(CodeBox& box);
 
 } // namespace Umlauts

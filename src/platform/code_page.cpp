@@ -12,10 +12,10 @@ namespace CodePage {
 namespace {
 
 // Bytes 0x80 to 0x9F of Windows-1252; the unassigned ones stand for the C1 control of their number.
-constexpr std::array<char16_t, 32> C1{
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+constexpr std::array<char16_t, 32> C1{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                      0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                      0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                      0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 constexpr QByteArrayView Mark("\xEF\xBB\xBF", 3);
 
@@ -60,8 +60,8 @@ Decoded Decode(const QByteArray& bytes) {
     Decoded result;
     const bool mark = bytes.startsWith(Mark);
     if (mark || !IsAscii(bytes)) {
-        QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless |
-                                                         QStringConverter::Flag::ConvertInitialBom);
+        QStringDecoder decoder(QStringDecoder::Utf8,
+                               QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom);
         const QByteArrayView body = mark ? QByteArrayView(bytes).sliced(Mark.size()) : QByteArrayView(bytes);
         QString text = decoder.decode(body);
         if (!decoder.hasError()) {

@@ -18,8 +18,8 @@ struct Format {
     bool operator==(const Format&) const = default;
 };
 
-// Windows-1252 with the five unassigned bytes kept as the control characters of the same number (as the WHATWG
-// Encoding Standard has it): each of the 256 bytes has a character of its own, so nothing is lost.
+// Windows-1252 with the five unassigned bytes kept as the control characters of the same number (as the
+// WHATWG Encoding Standard has it): each of the 256 bytes has a character of its own, so nothing is lost.
 QString FromWindows1252(const QByteArray& bytes);
 // Characters outside the code page become "?".
 QByteArray ToWindows1252(const QString& text);
@@ -33,11 +33,12 @@ struct Decoded {
     Format format;
 };
 
-// UTF-8 with a mark, or valid UTF-8 with at least one character beyond ASCII, is UTF-8; all else is Windows-1252.
+// UTF-8 with a mark, or valid UTF-8 with at least one character beyond ASCII, is UTF-8; all else is
+// Windows-1252.
 Decoded Decode(const QByteArray& bytes);
 
-// `text` (line breaks CR LF) as bytes in `format`. A text that no longer fits Windows-1252 is written as UTF-8,
-// and `format` is changed to say so.
+// `text` (line breaks CR LF) as bytes in `format`. A text that no longer fits Windows-1252 is written as
+// UTF-8, and `format` is changed to say so.
 QByteArray Encode(const QString& text, Format& format);
 
 // What the status bar shows: "Windows-1252", "UTF-8" or "UTF-8 mit Marke", and " LF" behind it for lone LFs.

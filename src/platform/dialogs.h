@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Questions to the user. They stand behind one handler, which the start sets to real dialogs and tests replace.
+// Questions to the user. They stand behind one handler, which the start sets to real dialogs and tests
+// replace.
 #pragma once
 
 #include <QString>

@@ -18,20 +18,28 @@ namespace {
 
 QMessageBox::Icon QtIcon(Icon icon) {
     switch (icon) {
-    case Icon::Critical: return QMessageBox::Critical;
-    case Icon::Question: return QMessageBox::Question;
-    case Icon::Exclamation: return QMessageBox::Warning;
-    case Icon::Information: return QMessageBox::Information;
-    case Icon::None: break;
+    case Icon::Critical:
+        return QMessageBox::Critical;
+    case Icon::Question:
+        return QMessageBox::Question;
+    case Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::None:
+        break;
     }
     return QMessageBox::NoIcon;
 }
 
 QMessageBox::StandardButtons QtButtons(Buttons buttons) {
     switch (buttons) {
-    case Buttons::YesNo: return QMessageBox::Yes | QMessageBox::No;
-    case Buttons::YesNoCancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-    case Buttons::Ok: break;
+    case Buttons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case Buttons::Ok:
+        break;
     }
     return QMessageBox::Ok;
 }
@@ -59,10 +67,14 @@ Answer QtHandler::Ask(const Message& message) {
         box.setDefaultButton(message.preset == Answer::No ? QMessageBox::No : QMessageBox::Yes);
     }
     switch (box.exec()) {
-    case QMessageBox::Yes: return Answer::Yes;
-    case QMessageBox::No: return Answer::No;
-    case QMessageBox::Ok: return Answer::Ok;
-    default: break;
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Ok:
+        return Answer::Ok;
+    default:
+        break;
     }
     return message.buttons == Buttons::Ok      ? Answer::Ok
            : message.buttons == Buttons::YesNo ? Answer::No
@@ -71,8 +83,8 @@ Answer QtHandler::Ask(const Message& message) {
 
 QString QtHandler::AskText(const QString& prompt, const QString& title, const QString& preset) {
     bool ok = false;
-    const QString text = QInputDialog::getText(QApplication::activeWindow(), title, prompt, QLineEdit::Normal,
-                                               preset, &ok);
+    const QString text =
+        QInputDialog::getText(QApplication::activeWindow(), title, prompt, QLineEdit::Normal, preset, &ok);
     return ok ? text : QString();
 }
 
@@ -107,11 +119,14 @@ QString QtHandler::ChooseOpenFile(const FileQuestion& question) { return ChooseF
 QString QtHandler::ChooseSaveFile(const FileQuestion& question) { return ChooseFile(question, true); }
 
 QString QtHandler::ChooseFolder(const QString& title) {
-    return Files::FromSystem(QFileDialog::getExistingDirectory(QApplication::activeWindow(), title, StartFolder()));
+    return Files::FromSystem(
+        QFileDialog::getExistingDirectory(QApplication::activeWindow(), title, StartFolder()));
 }
 
 void QtHandler::Beep() { QApplication::beep(); }
 
-void QtHandler::OpenAddress(const QString& address) { QDesktopServices::openUrl(QUrl::fromUserInput(address)); }
+void QtHandler::OpenAddress(const QString& address) {
+    QDesktopServices::openUrl(QUrl::fromUserInput(address));
+}
 
 } // namespace Dialogs

@@ -12,7 +12,8 @@ namespace Dialogs {
 // The real dialogs of the desktop, modal to the active window.
 class QtHandler : public Handler {
 public:
-    // `startFolder` names the folder (system form) that file dialogs begin in; an empty answer means the last one.
+    // `startFolder` names the folder (system form) that file dialogs begin in; an empty answer means the last
+    // one.
     explicit QtHandler(std::function<QString()> startFolder) : m_startFolder(std::move(startFolder)) {}
     Answer Ask(const Message& message) override;
     QString AskText(const QString& prompt, const QString& title, const QString& preset) override;

@@ -42,7 +42,8 @@ const Folders& CurrentFolders() {
     return Overridden();
 }
 
-// The file that a chain of symbolic links ends in; the path itself when it is no link or the chain has no end.
+// The file that a chain of symbolic links ends in; the path itself when it is no link or the chain has no
+// end.
 QString LinkTarget(QString system) {
     for (int step = 0; step < 40; ++step) {
         const QFileInfo info(system);
@@ -57,7 +58,8 @@ bool WriteInPlace(const QString& system, const QByteArray& bytes) {
     if (!file.open(QIODevice::ReadWrite)) return false;
     const QByteArray before = file.readAll();
     const auto overwrite = [&](const QByteArray& content) {
-        return file.seek(0) && file.write(content) == content.size() && file.flush() && file.resize(content.size());
+        return file.seek(0) && file.write(content) == content.size() && file.flush() &&
+               file.resize(content.size());
     };
     if (overwrite(bytes)) return true;
     overwrite(before);
@@ -173,7 +175,9 @@ QString ProgramFile(const QString& name) {
     return QFileInfo::exists(ToSystem(shipped)) ? shipped : own;
 }
 
-void SetProgramDirectory(const QString& writable, const QString& readOnly) { Overridden() = {writable, readOnly}; }
+void SetProgramDirectory(const QString& writable, const QString& readOnly) {
+    Overridden() = {writable, readOnly};
+}
 
 QStringList Lines(const QString& text) {
     QStringList lines;

@@ -14,28 +14,30 @@ namespace Files {
 QString ToSystem(const QString& path);
 // A path of the system in the program's form.
 QString FromSystem(const QString& path);
-// Whether `path` is a full local path: a drive letter and ":", or a "\" at its start where there are no drives.
+// Whether `path` is a full local path: a drive letter and ":", or a "\" at its start where there are no
+// drives.
 bool IsFullPath(const QString& path);
 // `path` made full, counted from the current directory.
 QString MakeFull(const QString& path);
 
 enum class ReadError { None, FileNotFound, PathNotFound, Other };
-// The bytes of a file. On failure nothing, and `error` (if given) says why: the file is missing in an existing
-// folder, its folder is missing, or anything else (a folder, no rights, too large).
+// The bytes of a file. On failure nothing, and `error` (if given) says why: the file is missing in an
+// existing folder, its folder is missing, or anything else (a folder, no rights, too large).
 std::optional<QByteArray> Read(const QString& path, ReadError* error = nullptr);
 // The text of one of the program's own files, which are Windows-1252; nothing on failure.
 std::optional<QString> ReadProgramText(const QString& path);
-// Replaces a file by way of a temporary one and a rename, so that a failure leaves the old file whole. Keeps the
-// permissions of an existing file and writes through a symbolic link to its target. Returns whether it worked.
+// Replaces a file by way of a temporary one and a rename, so that a failure leaves the old file whole. Keeps
+// the permissions of an existing file and writes through a symbolic link to its target. Returns whether it
+// worked.
 bool Write(const QString& path, const QByteArray& bytes);
 
 // Whether the file can be opened for reading; false for a folder.
 bool CanRead(const QString& path);
 bool FolderExists(const QString& path);
-bool Copy(const QString& from, const QString& to); // replaces `to`
+bool Copy(const QString& from, const QString& to);   // replaces `to`
 bool Rename(const QString& from, const QString& to); // replaces `to`
 bool Remove(const QString& path);
-bool MakeFolder(const QString& path); // with its parents
+bool MakeFolder(const QString& path);   // with its parents
 bool RemoveFolder(const QString& path); // with its contents
 // Moves a file or folder to the trash; where there is none, removes it outright. Returns whether it is gone.
 bool MoveToTrash(const QString& path);
@@ -46,10 +48,11 @@ std::optional<qint64> SizeOf(const QString& path);
 // The folder that the program writes into and finds its files in, without a separator at its end: the
 // executable's own while that is writable, otherwise the user's application data folder.
 QString ProgramDirectory();
-// Full path of the program's file `name` ("edit.ini", "support\index.htm"): in ProgramDirectory(), or, where it
-// is not there, in the data folder of a read-only installation.
+// Full path of the program's file `name` ("edit.ini", "support\index.htm"): in ProgramDirectory(), or, where
+// it is not there, in the data folder of a read-only installation.
 QString ProgramFile(const QString& name);
-// Replaces both folders (tests, and installations with a data folder elsewhere). Empty texts restore the default.
+// Replaces both folders (tests, and installations with a data folder elsewhere). Empty texts restore the
+// default.
 void SetProgramDirectory(const QString& writable, const QString& readOnly = {});
 
 // Splits a file's text into lines: CR LF, LF and CR each end one, and a last line without an end counts.

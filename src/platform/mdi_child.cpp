@@ -36,13 +36,19 @@ MdiChild::MdiChild() {
     m_frame->installEventFilter(this);
     connect(m_frame, &QMdiSubWindow::aboutToActivate, this, [this] {
         // the area activates a window before it has the focus; the routine wants to find it active
-        QMetaObject::invokeMethod(this, [this] { if (IsActiveChild()) Activated(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (IsActiveChild()) Activated();
+            },
+            Qt::QueuedConnection);
     });
-    connect(m_frame, &QMdiSubWindow::windowStateChanged, this, [this](Qt::WindowStates before, Qt::WindowStates now) {
-        const Qt::WindowStates kinds = Qt::WindowMaximized | Qt::WindowMinimized;
-        if ((before & kinds) != (now & kinds)) PlaceChanged(State());
-        if ((before & Qt::WindowActive) && !(now & Qt::WindowActive)) Deactivated();
-    });
+    connect(m_frame, &QMdiSubWindow::windowStateChanged, this,
+            [this](Qt::WindowStates before, Qt::WindowStates now) {
+                const Qt::WindowStates kinds = Qt::WindowMaximized | Qt::WindowMinimized;
+                if ((before & kinds) != (now & kinds)) PlaceChanged(State());
+                if ((before & Qt::WindowActive) && !(now & Qt::WindowActive)) Deactivated();
+            });
 }
 
 QWidget* MdiChild::Frame() const {
@@ -75,7 +81,8 @@ int MdiChild::State() const {
 }
 
 void MdiChild::SetNormalState() {
-    if (State() != 0) Frame()->setWindowState(Frame()->windowState() & ~(Qt::WindowMaximized | Qt::WindowMinimized));
+    if (State() != 0)
+        Frame()->setWindowState(Frame()->windowState() & ~(Qt::WindowMaximized | Qt::WindowMinimized));
 }
 
 void MdiChild::ShowMaximizedState() { Frame()->showMaximized(); }

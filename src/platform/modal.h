@@ -7,12 +7,13 @@
 #include <QDialog>
 
 // Shows the shared dialog modally to the main window and ends its life when it is closed.
-template <class Dialog> void ShowModal() {
+template<class Dialog> void ShowModal() {
     if (Loaded<Dialog>()) return;
     Dialog& dialog = Shared<Dialog>();
     QWidget* parent = QApplication::activeWindow();
     // a window that has just ended its life would take the dialog along
-    if (!dialog.parentWidget() && parent && parent->isVisible()) dialog.setParent(parent, dialog.windowFlags());
+    if (!dialog.parentWidget() && parent && parent->isVisible())
+        dialog.setParent(parent, dialog.windowFlags());
     dialog.exec();
     Unload<Dialog>();
 }

@@ -12,7 +12,8 @@ namespace Numbers {
 // Throws RuntimeError for anything else, also for an empty text.
 bool ReadBoolean(QStringView text);
 
-// The number that the whole of `text` stands for, with the decimal point. Throws RuntimeError when it is none.
+// The number that the whole of `text` stands for, with the decimal point. Throws RuntimeError when it is
+// none.
 double ReadNumber(QStringView text);
 
 // The same as a 16-bit integer, halves rounded to the even neighbour. Throws RuntimeError outside its range.

@@ -14,7 +14,8 @@ qsizetype Find(QStringView text, QStringView needle, qsizetype start) {
 
 qsizetype FindBack(QStringView text, QStringView needle, qsizetype start) {
     if (start < 1) throw RuntimeError("find back: start below 1");
-    // The last place that a hit may begin at is named: without one, Qt 6.4 looks one character beyond the view.
+    // The last place that a hit may begin at is named: without one, Qt 6.4 looks one character beyond the
+    // view.
     const qsizetype last = std::min(start, text.size()) - needle.size();
     return last < 0 ? 0 : text.lastIndexOf(needle, last) + 1;
 }
@@ -51,7 +52,7 @@ QChar LowerCase(QChar character) {
 }
 
 namespace {
-template <class Change> QString Mapped(QStringView text, Change change) {
+template<class Change> QString Mapped(QStringView text, Change change) {
     QString result(text.size(), Qt::Uninitialized);
     std::transform(text.begin(), text.end(), result.begin(), change);
     return result;

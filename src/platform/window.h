@@ -17,18 +17,18 @@ public:
 };
 
 namespace SharedWindows {
-template <class Window> struct Slot {
+template<class Window> struct Slot {
     static inline Window* instance = nullptr;
     static inline bool unloading = false;
 };
 } // namespace SharedWindows
 
 // Whether the window exists.
-template <class Window> bool Loaded() { return SharedWindows::Slot<Window>::instance != nullptr; }
+template<class Window> bool Loaded() { return SharedWindows::Slot<Window>::instance != nullptr; }
 
-// Ends the window's life: its unload routine runs, then it is deleted as soon as events run. Does nothing when
-// the window does not exist or is ending already.
-template <class Window> void Unload() {
+// Ends the window's life: its unload routine runs, then it is deleted as soon as events run. Does nothing
+// when the window does not exist or is ending already.
+template<class Window> void Unload() {
     using Slot = SharedWindows::Slot<Window>;
     if (!Slot::instance || Slot::unloading) return;
     Slot::unloading = true;
@@ -44,7 +44,7 @@ template <class Window> void Unload() {
 }
 
 // The one instance of the window, created and loaded when there is none.
-template <class Window> Window& Shared() {
+template<class Window> Window& Shared() {
     using Slot = SharedWindows::Slot<Window>;
     if (!Slot::instance) {
         Slot::instance = new Window;

@@ -39,25 +39,14 @@ private:
 void SetCodeCommands(Collector& set, bool open) {
     set.Set(open, {"Menu_Edit_Undo", "Menu_Edit_Redo"});
     set.SetButtons(open, {7, 8, 10, 11, 15, 16, 17, 18, 19, 21, 22, 23, 27, 28, 29, 30, 31, 32});
-    set.Set(open, {"Menu_File_Import",
-                   "Menu_Edit_Cut",
-                   "Menu_Edit_Copy",
-                   "Menu_Edit_Paste",
-                   "Menu_Edit_Delete",
-                   "Menu_Edit_Search",
-                   "Menu_Edit_SelectAll",
-                   "Menu_Edit_EditString",
-                   "Menu_Edit_ChangeDigitSystem",
-                   "Menu_Edit_CalculateText",
-                   "Menu_View_Zoom",
-                   "Menu_Debug_Start",
-                   "Menu_Tools_Uml",
-                   "Menu_Tools_DeleteComment",
-                   "Menu_Tools_MadCode"});
+    set.Set(open, {"Menu_File_Import", "Menu_Edit_Cut", "Menu_Edit_Copy", "Menu_Edit_Paste",
+                   "Menu_Edit_Delete", "Menu_Edit_Search", "Menu_Edit_SelectAll", "Menu_Edit_EditString",
+                   "Menu_Edit_ChangeDigitSystem", "Menu_Edit_CalculateText", "Menu_View_Zoom",
+                   "Menu_Debug_Start", "Menu_Tools_Uml", "Menu_Tools_DeleteComment", "Menu_Tools_MadCode"});
     set.SetBranch(open, u"Menu_Insert");
-    set.Set(open, {"Menu_Tools_LCaseTags", "Menu_Tools_UCaseTags", "Menu_View_ColorStandard", "Menu_View_ColorKCC",
-                   "Menu_View_TagTools", "Menu_View_Events", "Menu_View_Character", "Menu_View_CloseTools",
-                   "Menu_View_FormatSubClass", "Menu_View_ShowJavaScriptBar"});
+    set.Set(open, {"Menu_Tools_LCaseTags", "Menu_Tools_UCaseTags", "Menu_View_ColorStandard",
+                   "Menu_View_ColorKCC", "Menu_View_TagTools", "Menu_View_Events", "Menu_View_Character",
+                   "Menu_View_CloseTools", "Menu_View_FormatSubClass", "Menu_View_ShowJavaScriptBar"});
 }
 
 } // namespace
@@ -70,9 +59,9 @@ Changes Evaluate(const Snapshot& state) {
 
     set.Set(state.docOpen, {"Menu_File_Close"});
     set.SetButtons(state.docOpen, {3, 13, 14, 24, 25});
-    set.Set(state.docOpen, {"Menu_File_Save", "Menu_File_SaveAs", "Menu_File_Print", "Menu_View_Code",
-                            "Menu_View_Browser", "Menu_View_SyntaxPreView", "Menu_Tools_ProjectManager",
-                            "Menu_Tools_SpeedCheck"});
+    set.Set(state.docOpen,
+            {"Menu_File_Save", "Menu_File_SaveAs", "Menu_File_Print", "Menu_View_Code", "Menu_View_Browser",
+             "Menu_View_SyntaxPreView", "Menu_Tools_ProjectManager", "Menu_Tools_SpeedCheck"});
     if (!state.docOpen) {
         set.SetButtons(false, {15, 16, 17, 20, 21});
         set.Set(false, {"Menu_View_ColorStandard", "Menu_View_ColorKCC", "Menu_View_TagTools"});
@@ -89,8 +78,9 @@ Changes Evaluate(const Snapshot& state) {
         set.Set(state.undoTouched, {"Menu_Edit_Undo", "Menu_Edit_Redo"});
         set.SetButtons(state.undoTouched, {10, 11});
         set.Set(state.scriptCommands, {"Menu_Insert_JavaScript", "Menu_Insert_JavaScript_CurrentVar"});
-        set.Set(state.hasSelection, {"Menu_Edit_Cut", "Menu_Edit_Copy", "Menu_Edit_Delete", "Menu_Edit_EditString",
-                                     "Menu_Edit_ChangeDigitSystem", "Menu_Edit_CalculateText"});
+        set.Set(state.hasSelection,
+                {"Menu_Edit_Cut", "Menu_Edit_Copy", "Menu_Edit_Delete", "Menu_Edit_EditString",
+                 "Menu_Edit_ChangeDigitSystem", "Menu_Edit_CalculateText"});
         set.SetButtons(state.hasSelection, {5, 6});
     }
     return set.Take();

@@ -16,8 +16,9 @@ inline const QString WAP = QStringLiteral("http://www.example.invalid/wap.htm");
 inline const QString UpdateCheck = QStringLiteral("http://www.example.invalid/update.htm");
 inline const QString UpdateArchive = QStringLiteral("http://download.example.invalid/sorvane.zip");
 inline const QString Mail = QStringLiteral("mailto:info@example.invalid");
-inline const QString MailBug = QStringLiteral("mailto:info@example.invalid?subject=Fehlermeldung%20Sorvane%20HTML%20"
-                                              "Editor%203.0&body=Fehlerbeschreibung:");
+inline const QString MailBug =
+    QStringLiteral("mailto:info@example.invalid?subject=Fehlermeldung%20Sorvane%20HTML%20"
+                   "Editor%203.0&body=Fehlerbeschreibung:");
 
 // Whether `address` is still a placeholder, so that asking the network for it is of no use.
 inline bool IsPlaceholder(const QString& address) { return address.contains(Domain); }

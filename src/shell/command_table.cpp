@@ -217,7 +217,8 @@ constexpr DropDownRow Entries[] = {
     {u"Browser", u"Once", u"Diese Seite\tF5", u"Menu_View_Browser_Once", u"browser_once"},
     {u"Browser", u"Temp", u"Temporärvorschau\tStrg+F", u"Menu_View_Browser_Temp", u"browser_temp"},
     {u"Browser", u"Project", u"Indexseite\tStrg+F5", u"Menu_View_Browser_Project", u"browser_project"},
-    {u"Browser", u"WAPBrowser", u"WAP-Simulation\tUmschalt+Strg+F5", u"Menu_View_Browser_WAP", u"browser_wap"},
+    {u"Browser", u"WAPBrowser", u"WAP-Simulation\tUmschalt+Strg+F5", u"Menu_View_Browser_WAP",
+     u"browser_wap"},
     {u"Table", u"InsertTable", u"Tabelle einfügen", u"Menu_Insert_Table_Insert", u"table"},
     {u"Table", u"OpenTable", u"Tabelle öffnen", u"Menu_Insert_Table_Open", u"table_open"},
 };

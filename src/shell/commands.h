@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The commands of the main window as one table, and their present state. Menus and tool bar are built from the
-// table; the state is kept here and shown by whoever watches it, so that logic can ask and set it without a window.
+// The commands of the main window as one table, and their present state. Menus and tool bar are built from
+// the table; the state is kept here and shown by whoever watches it, so that logic can ask and set it without
+// a window.
 #pragma once
 
 #include <QString>
@@ -12,11 +13,11 @@ namespace Commands {
 
 enum Flag : unsigned {
     None = 0,
-    Hidden = 1,       // exists, but is not visible at start
-    Checked = 2,      // begins with a check mark
-    Checkable = 4,    // shows a check mark when it is set
-    Submenu = 8,      // holds the rows below it that stand one level deeper
-    Separator = 16,   // a line; has no name of its own
+    Hidden = 1,     // exists, but is not visible at start
+    Checked = 2,    // begins with a check mark
+    Checkable = 4,  // shows a check mark when it is set
+    Submenu = 8,    // holds the rows below it that stand one level deeper
+    Separator = 16, // a line; has no name of its own
 };
 
 // One row of the menu tree, in its order. `level` 0 is the menu bar.
@@ -30,8 +31,8 @@ struct MenuRow {
 };
 std::span<const MenuRow> MenuTree();
 
-// One of the 32 places of the tool bar; a place without a key is a separator. `command` names the menu item whose
-// routine it runs.
+// One of the 32 places of the tool bar; a place without a key is a separator. `command` names the menu item
+// whose routine it runs.
 struct ToolBarRow {
     QStringView key;
     QStringView tip;
@@ -63,8 +64,8 @@ struct State {
     bool checked = false;
 };
 
-// State of a menu item, tool button or drop-down entry by its object name. Asking for a name that is in no table
-// is a fault of the program and ends it in a debug build.
+// State of a menu item, tool button or drop-down entry by its object name. Asking for a name that is in no
+// table is a fault of the program and ends it in a debug build.
 const State& StateOf(const QString& name);
 void SetEnabled(const QString& name, bool enabled);
 void SetVisible(const QString& name, bool visible);

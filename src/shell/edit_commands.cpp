@@ -31,7 +31,8 @@ QString ReverseText(const QString& text) {
     std::reverse(turned.begin(), turned.end());
     // a character of two units keeps its order
     for (qsizetype i = 0; i + 1 < turned.size(); ++i) {
-        if (turned[i].isLowSurrogate() && turned[i + 1].isHighSurrogate()) std::swap(turned[i], turned[i + 1]);
+        if (turned[i].isLowSurrogate() && turned[i + 1].isHighSurrogate())
+            std::swap(turned[i], turned[i + 1]);
     }
     ReplaceSameLength(turned, u"\n\r", Text::LineBreak);
     return turned;
@@ -44,11 +45,11 @@ namespace EditCommands {
 namespace {
 
 // Runs `command` on the code box; a statement of it that fails ends it silently.
-template <class Command> void OnCode(Command&& command) {
+template<class Command> void OnCode(Command&& command) {
     if (CodeBox* box = Neighbours::TheCodeBox()) Attempt([&] { command(*box); });
 }
 
-template <class Change> void ChangeSelection(Change&& change) {
+template<class Change> void ChangeSelection(Change&& change) {
     OnCode([&](CodeBox& box) {
         Undo::PushUndo();
         box.SetSelText(change(box.SelText()));
@@ -64,7 +65,9 @@ QString InBase(const QString& text, int base) {
     return QString::number(pattern, base).toUpper();
 }
 
-void TellResult(const QString& text) { Dialogs::Tell(u"Aus Text berechnen"_s, text, Dialogs::Icon::Information); }
+void TellResult(const QString& text) {
+    Dialogs::Tell(u"Aus Text berechnen"_s, text, Dialogs::Icon::Information);
+}
 
 void TellCalculation(const QString& intro, CodeAccess::Calculation mode) {
     OnCode([&](CodeBox& box) {
@@ -138,10 +141,11 @@ void Menu_Edit_EditString_LCase() {
 void Menu_Edit_EditString_Turn() {
     ChangeSelection([](const QString& text) { return Global::ReverseText(text); });
     if (!Global::AssistantOpen) return;
-    Neighbours::RunAnimation(
-        1, u"Sie haben gerade eine Zeichenfolge umgedreht. Verwenden Sie diese Funktion auch um Farben umzudrehen. Sie "
-           "können so meistens zwei Farben mit einem guten Kontrast erzeugen, wenn die Farben nicht zu hell oder zu "
-           "dunkel sind."_s);
+    Neighbours::RunAnimation(1, u"Sie haben gerade eine Zeichenfolge umgedreht. Verwenden Sie diese Funktion "
+                                u"auch um Farben umzudrehen. Sie "
+                                "können so meistens zwei Farben mit einem guten Kontrast erzeugen, wenn die "
+                                "Farben nicht zu hell oder zu "
+                                "dunkel sind."_s);
 }
 
 void Menu_Edit_ChangeDigitSystem_Hex() {
@@ -193,18 +197,20 @@ void Menu_Insert_Date() { Insert(QLocale().toString(QDate::currentDate(), QLocal
 void Menu_Insert_Time() { Insert(QLocale().toString(QTime::currentTime(), QLocale::ShortFormat)); }
 
 void Menu_Insert_FileName() {
-    static const QString filter = QStringLiteral(
-        "Alle unterstützten Dateien "
-        "(*.gif;*.jpg;*.png;*.wbmp;*.htm;*.html;*.wml;*.txt;*.css;*.swf;*.js;*.vbs;*.zip)|"
-        "*.gif;*.jpg;*.png;*.wbmp;*.htm;*.html;*.wml;*.txt;*.css;*.swf;*.js;*.vbs;*.zip|"
-        "Bilder (*.gif;*.jpg;*.png;*.wbmp)|*.gif;*.jpg;*.png;*.wbmp|Internet-Seiten (*.htm;*.html)|*.htm;*.html|"
-        "WAP-Seiten (*.wml)|*.wml|Textdateien (*.txt)|*.txt|StyleSheets (*.css)|*.css|"
-        "ShockWaveFlash (*.swf)|*.swf|Scripte (*.js;*.vbs)|*.js;*.vbs|Archive (*.zip)|*.zip|"
-        "Alle Dateien (*.*)|*.*");
+    static const QString filter =
+        QStringLiteral("Alle unterstützten Dateien "
+                       "(*.gif;*.jpg;*.png;*.wbmp;*.htm;*.html;*.wml;*.txt;*.css;*.swf;*.js;*.vbs;*.zip)|"
+                       "*.gif;*.jpg;*.png;*.wbmp;*.htm;*.html;*.wml;*.txt;*.css;*.swf;*.js;*.vbs;*.zip|"
+                       "Bilder (*.gif;*.jpg;*.png;*.wbmp)|*.gif;*.jpg;*.png;*.wbmp|Internet-Seiten "
+                       "(*.htm;*.html)|*.htm;*.html|"
+                       "WAP-Seiten (*.wml)|*.wml|Textdateien (*.txt)|*.txt|StyleSheets (*.css)|*.css|"
+                       "ShockWaveFlash (*.swf)|*.swf|Scripte (*.js;*.vbs)|*.js;*.vbs|Archive (*.zip)|*.zip|"
+                       "Alle Dateien (*.*)|*.*");
     Undo::PushUndo();
     if (Global::AssistantOpen) {
-        Neighbours::RunAnimation(1, u"So fügen Sie einen Dateinamen ein. Der Path wird automatisch zu einem relativen "
-                                    "Path konvertiert, wenn Sie die HTML-Seite schon gespeichert haben."_s);
+        Neighbours::RunAnimation(
+            1, u"So fügen Sie einen Dateinamen ein. Der Path wird automatisch zu einem relativen "
+               "Path konvertiert, wenn Sie die HTML-Seite schon gespeichert haben."_s);
     }
     const QString path = Dialogs::OpenFileDialog(u"Dateiname einfügen"_s, filter);
     if (path.isEmpty()) {

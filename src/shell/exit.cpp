@@ -18,7 +18,8 @@ void Frm_Main::closeEvent(QCloseEvent* event) {
 void Frm_Main::Exit() {
     if (m_ending) return;
     m_ending = true;
-    for (const QString& tool : {u"Frm_Color"_s, u"Frm_KCC"_s, u"Frm_TagTools"_s}) Neighbours::UnloadWindow(tool);
+    for (const QString& tool : {u"Frm_Color"_s, u"Frm_KCC"_s, u"Frm_TagTools"_s})
+        Neighbours::UnloadWindow(tool);
     bool write = true;
     if (Global::DocChanged) {
         const auto answer = Dialogs::MsgBox(

@@ -17,7 +17,8 @@ QLabel* MakeLink(const QString& name, const QString& text, const QString& addres
     auto* label = new QLabel(u"<a href=\"%1\">%2</a>"_s.arg(address.toHtmlEscaped(), text));
     label->setObjectName(name);
     label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    QObject::connect(label, &QLabel::linkActivated, label, [](const QString& link) { Dialogs::OpenAddress(link); });
+    QObject::connect(label, &QLabel::linkActivated, label,
+                     [](const QString& link) { Dialogs::OpenAddress(link); });
     return label;
 }
 

@@ -50,8 +50,9 @@ void Frm_Main::WireNeighbours() {
     ReadMainPlace.AnsweredBy([this] { return Place(); });
     MainSize.AnsweredBy([this] { return LayoutSize(); });
     Neighbours::ActivateFunktions.AnsweredBy([this] { ActivateFunktions(); });
-    SetMainCaption.AnsweredBy(
-        [this](const QString& caption) { setWindowTitle(caption.isEmpty() ? Global::ProgramName : caption); });
+    SetMainCaption.AnsweredBy([this](const QString& caption) {
+        setWindowTitle(caption.isEmpty() ? Global::ProgramName : caption);
+    });
     SetStatusPanel.AnsweredBy([this](int panel, const QString& text) { m_statusBar->SetPanel(panel, text); });
     Neighbours::AddMenuAttribute.AnsweredBy(
         [this](const QString& caption, const QString& tag) { AddMenuAttribute(caption, tag); });
@@ -67,7 +68,8 @@ void Frm_Main::WireNeighbours() {
         Shared<Frm_Code>().TextBox->SetFocus();
     });
     ShowCodeWindow.AnsweredBy([] { Shared<Frm_Code>().BringToFront(); });
-    Neighbours::ScriptBarShown.AnsweredBy([] { return Loaded<Frm_Code>() && Shared<Frm_Code>().CodeTop() > 0; });
+    Neighbours::ScriptBarShown.AnsweredBy(
+        [] { return Loaded<Frm_Code>() && Shared<Frm_Code>().CodeTop() > 0; });
     CheckOnce.AnsweredBy([] {
         if (Loaded<Frm_Code>()) Shared<Frm_Code>().CheckOnce();
     });
@@ -91,7 +93,8 @@ void Frm_Main::ActivateFunktions() {
     Activation::Apply(Activation::Evaluate(state));
 }
 
-// --- place and size -------------------------------------------------------------------------------------------------
+// --- place and size
+// -------------------------------------------------------------------------------------------------
 
 Neighbours::Size Frm_Main::LayoutSize() const {
     const QSize client = m_area->viewport()->size();
@@ -112,7 +115,8 @@ Neighbours::MainPlace Frm_Main::Place() const {
 void Frm_Main::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
     if (m_wantedPlace.isEmpty()) return;
-    // The settings hold the outer place; what the frame takes of it is known a moment after the window is mapped.
+    // The settings hold the outer place; what the frame takes of it is known a moment after the window is
+    // mapped.
     QTimer::singleShot(0, this, [this] {
         const QRect wanted = std::exchange(m_wantedPlace, {});
         if (wanted.isEmpty() || isMaximized() || isMinimized()) return;
@@ -129,7 +133,8 @@ void Frm_Main::resizeEvent(QResizeEvent* event) {
 bool Frm_Main::eventFilter(QObject* watched, QEvent* event) {
     // The client area changes with tool bar and scroll bars too.
     if (watched == m_area->viewport() && event->type() == QEvent::Resize) {
-        QMetaObject::invokeMethod(this, [this] { LayOut(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { LayOut(); }, Qt::QueuedConnection);
     }
     return QMainWindow::eventFilter(watched, event);
 }
@@ -143,7 +148,8 @@ void Frm_Main::LayOut() {
     if (Global::BrowserOpen) Neighbours::LayoutBrowser();
 }
 
-// --- files from outside ---------------------------------------------------------------------------------------------
+// --- files from outside
+// ---------------------------------------------------------------------------------------------
 
 void Frm_Main::dragEnterEvent(QDragEnterEvent* event) {
     const QList<QUrl> urls = event->mimeData()->urls();
@@ -157,7 +163,8 @@ void Frm_Main::dropEvent(QDropEvent* event) {
     QTimer::singleShot(0, this, [path] { Documents::DropFile(path); });
 }
 
-// --- context menu of the code box -----------------------------------------------------------------------------------
+// --- context menu of the code box
+// -----------------------------------------------------------------------------------
 
 void Frm_Main::AddMenuAttribute(const QString& caption, const QString& tag) {
     auto* item = new QAction(QString(caption).replace(u'&', u"&&"_s), m_menu->CodeMenu());

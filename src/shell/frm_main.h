@@ -45,8 +45,8 @@ public:
     MainMenu* Commands() const { return m_menu; }
     QMdiArea* Area() const { return m_area; }
 
-    // The end of the program: asks about unsaved text, writes the settings, removes the scratch files. There is
-    // no way back from here.
+    // The end of the program: asks about unsaved text, writes the settings, removes the scratch files. There
+    // is no way back from here.
     void Exit();
 
 protected:

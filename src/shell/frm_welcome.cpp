@@ -26,10 +26,14 @@ struct Option {
 };
 
 constexpr Option Options[] = {
-    {u"New", u"XHTML Seite", u"NewXHTML", u"new_xhtml"},    {u"New", u"HTML Seite", u"NewHTML", u"new_html"},
-    {u"New", u"WAP Seite", u"NewWAP", u"new_wml"},          {u"New", u"JavaScript", u"NewJavaScript", u"new_javascript"},
-    {u"New", u"Textdatei", u"NewTXT", u"new_text"},         {u"Exist", u"Datei öffnen", u"OpenFile", u"open_file"},
-    {u"Exist", u"", u"LastFile", u"last_file"},             {u"Other", u"Browser starten", u"Browser", u"browser"},
+    {u"New", u"XHTML Seite", u"NewXHTML", u"new_xhtml"},
+    {u"New", u"HTML Seite", u"NewHTML", u"new_html"},
+    {u"New", u"WAP Seite", u"NewWAP", u"new_wml"},
+    {u"New", u"JavaScript", u"NewJavaScript", u"new_javascript"},
+    {u"New", u"Textdatei", u"NewTXT", u"new_text"},
+    {u"Exist", u"Datei öffnen", u"OpenFile", u"open_file"},
+    {u"Exist", u"", u"LastFile", u"last_file"},
+    {u"Other", u"Browser starten", u"Browser", u"browser"},
 };
 
 } // namespace
@@ -104,11 +108,13 @@ void Frm_Welcome::Tab_Choice_Click() {
 void Frm_Welcome::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (Global::AssistantOpen) {
-        Neighbours::RunAnimation(
-            2, u"Willkommen im Sorvane HTML Editor 3.0\r\n\r\nIch bin Ihr Assistent. Und ich werde Ihnen beim Benutzen "
-               "dieses Editors und beim Programmieren helfen. Wenn Sie Fragen zu einem Tag haben geben Sie Ihn im "
-               "Textfeld über mir ein und klicken Sie auf Hilfe. Sie können auch im Text einen Tag markieren und auf "
-               "Hilfe klicken."_s);
+        Neighbours::RunAnimation(2, u"Willkommen im Sorvane HTML Editor 3.0\r\n\r\nIch bin Ihr Assistent. "
+                                    u"Und ich werde Ihnen beim Benutzen "
+                                    "dieses Editors und beim Programmieren helfen. Wenn Sie Fragen zu einem "
+                                    "Tag haben geben Sie Ihn im "
+                                    "Textfeld über mir ein und klicken Sie auf Hilfe. Sie können auch im "
+                                    "Text einen Tag markieren und auf "
+                                    "Hilfe klicken."_s);
     }
     Lvw_StartOption->setFocus();
 }

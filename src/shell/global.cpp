@@ -19,14 +19,14 @@ bool UpdateLogExists() { return Files::CanRead(Files::ProgramFile(u"update.log"_
 
 void Reset() {
     for (QString* text : {&CurrentFile, &DocType, &CurrentExtension, &HeldSource, &TextBeforeSelection,
-                          &TextAfterSelection, &DialogFile, &LastFile, &ProjectFiles, &WorkScreenSkin, &FTP_Address,
-                          &FTP_UserName, &KnownTagString, &NoCloseTagString, &WordChangeList}) {
+                          &TextAfterSelection, &DialogFile, &LastFile, &ProjectFiles, &WorkScreenSkin,
+                          &FTP_Address, &FTP_UserName, &KnownTagString, &NoCloseTagString, &WordChangeList}) {
         text->clear();
     }
-    for (bool* flag : {&DocOpen, &DocChanged, &SaveSucceeded, &CloseSucceeded, &PicturePreview, &SkipUndoOnChange,
-                       &AutoDebug, &AutoProjectManager, &AutoMaximize, &AutoPreView, &ShowDebugReport,
-                       &ListLinkErrors, &UseWindowsMenu, &ShowExternLinks, &DontShowNewUpdate, &StartPending,
-                       &AutoScan, &SkinFileExists}) {
+    for (bool* flag :
+         {&DocOpen, &DocChanged, &SaveSucceeded, &CloseSucceeded, &PicturePreview, &SkipUndoOnChange,
+          &AutoDebug, &AutoProjectManager, &AutoMaximize, &AutoPreView, &ShowDebugReport, &ListLinkErrors,
+          &UseWindowsMenu, &ShowExternLinks, &DontShowNewUpdate, &StartPending, &AutoScan, &SkinFileExists}) {
         *flag = false;
     }
     DebugAccuracy = MaxLinkDeep = CurrentTip = FirstStart = 0;

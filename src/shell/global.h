@@ -14,9 +14,10 @@ namespace Global {
 inline const QString ProgramName = QStringLiteral("Sorvane HTML Editor 3.0");
 
 // The document.
-inline QString CurrentFile;      // full path; empty for a new document without a name
-inline QString DocType;          // "HTML", "XHTML", "WML", "JS", "VBS", "CSS", "Text" or "IMG"
-inline QString CurrentExtension; // of the opened file, lower case, without the dot; "none" if the path has none
+inline QString CurrentFile; // full path; empty for a new document without a name
+inline QString DocType;     // "HTML", "XHTML", "WML", "JS", "VBS", "CSS", "Text" or "IMG"
+inline QString
+    CurrentExtension; // of the opened file, lower case, without the dot; "none" if the path has none
 inline bool DocOpen = false;
 inline bool DocChanged = false;
 inline bool SaveSucceeded = false;
@@ -66,8 +67,8 @@ inline QString FTP_Address;
 inline QString FTP_UserName;
 inline std::array<QString, 100> KeyCombos;
 
-// Place of a tool window as decimal text in twips: 1 left, 2 top, 3 width, 4 height. Element 0 says "True" when
-// the tool was open as the document window last closed.
+// Place of a tool window as decimal text in twips: 1 left, 2 top, 3 width, 4 height. Element 0 says "True"
+// when the tool was open as the document window last closed.
 using ToolPos = std::array<QString, 5>;
 inline ToolPos TagToolPos;
 inline ToolPos ColorToolPos;

@@ -21,7 +21,8 @@ MainMenu::MainMenu(QMainWindow* window, std::function<void(const QString&)> run)
 
 MainMenu::~MainMenu() { Commands::Watch({}); }
 
-QAction* MainMenu::MakeAction(const QString& name, const QString& text, QStringView icon, const QString& command) {
+QAction* MainMenu::MakeAction(const QString& name, const QString& text, QStringView icon,
+                              const QString& command) {
     auto* action = new QAction(Icons::Named(icon), text, this);
     action->setObjectName(name);
     connect(action, &QAction::triggered, this, [this, name, command] {
@@ -75,7 +76,8 @@ void MainMenu::BuildToolBar() {
             bar->addSeparator();
             continue;
         }
-        QAction* action = MakeAction(Commands::ButtonName(row.key), row.tip.toString(), row.icon, row.command.toString());
+        QAction* action =
+            MakeAction(Commands::ButtonName(row.key), row.tip.toString(), row.icon, row.command.toString());
         QString tip = row.tip.toString();
         // the tip tells the key, too; button and menu item of one command share it
         const QAction* item = Action(row.command.toString());
@@ -93,7 +95,8 @@ void MainMenu::BuildToolBar() {
 void MainMenu::BuildToolbarMenus() {
     const auto* bar = m_window->findChild<QToolBar*>(u"ToolBar"_s);
     for (const Commands::DropDownRow& row : Commands::DropDowns()) {
-        auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(Action(Commands::ButtonName(row.button))));
+        auto* button =
+            qobject_cast<QToolButton*>(bar->widgetForAction(Action(Commands::ButtonName(row.button))));
         if (!button->menu()) {
             button->setMenu(new QMenu(button));
             button->setPopupMode(QToolButton::MenuButtonPopup);

@@ -11,7 +11,8 @@ class QMainWindow;
 class QMenu;
 class QToolBar;
 
-// Menu bar and tool bar of the main window, built from the table of commands and kept in step with their state.
+// Menu bar and tool bar of the main window, built from the table of commands and kept in step with their
+// state.
 class MainMenu : public QObject {
     Q_OBJECT
 

@@ -45,7 +45,8 @@ void Menu_Debug_Start() {
 }
 
 void Menu_Help_InWeb() {
-    Say(u"Von dieser Internetseite können Sie das neueste Update des Sorvane HTML Editor 3.0 herunterladen. Die "
+    Say(u"Von dieser Internetseite können Sie das neueste Update des Sorvane HTML Editor 3.0 herunterladen. "
+        u"Die "
         "Zip-Datei entpacken Sie in das Verzeichnis des Editors."_s);
     Dialogs::OpenAddress(Addresses::Support);
 }
@@ -63,7 +64,8 @@ void Menu_Tools_Option() {
 
 void Menu_Tools_AutoUml() {
     if (!Flip(u"Menu_Tools_AutoUml"_s)) return;
-    Say(u"Sie haben eben 'AutoUmlaut' aktiviert. Umlaute, die Sie schreiben, werden jetzt sofort umgewandelt: aus ä "
+    Say(u"Sie haben eben 'AutoUmlaut' aktiviert. Umlaute, die Sie schreiben, werden jetzt sofort "
+        u"umgewandelt: aus ä "
         "wird ae, und wenn Sie ein & davor schreiben, wird aus &ä &auml;."_s);
 }
 
@@ -142,18 +144,18 @@ void AddEditHandlers(Handlers& handlers) {
 }
 
 void AddHelpHandlers(Handlers& handlers) {
-    handlers.insert({{u"Menu_Help_InWeb"_s, Menu_Help_InWeb},
-                     {u"Menu_Help_OnlineSupport"_s, Menu_Help_OnlineSupport},
-                     {u"Menu_Help_Internet_Webspace"_s, [] { OpenAddress(Addresses::Webspace); }},
-                     {u"Menu_Help_Internet_Domains"_s, [] { OpenAddress(Addresses::Domains); }},
-                     {u"Menu_Help_Internet_Tools"_s, [] { OpenAddress(Addresses::Tools); }},
-                     {u"Menu_Help_Internet_WAP"_s, [] { OpenAddress(Addresses::WAP); }},
-                     {u"Menu_Help_MailToVelonar"_s, [] { OpenAddress(Addresses::Mail); }},
-                     {u"Menu_Help_MailBug"_s, [] { OpenAddress(Addresses::MailBug); }},
-                     {u"Menu_Help_Index"_s, [] { Neighbours::RunTool(u"Frm_Help"_s); }},
-                     {u"Menu_Help_Info"_s, [] { Neighbours::RunTool(u"Frm_Info"_s); }},
-                     {u"Menu_Help_Assistant"_s,
-                      [] { Neighbours::ShowAssistant(Flip(u"Menu_Help_Assistant"_s)); }}});
+    handlers.insert(
+        {{u"Menu_Help_InWeb"_s, Menu_Help_InWeb},
+         {u"Menu_Help_OnlineSupport"_s, Menu_Help_OnlineSupport},
+         {u"Menu_Help_Internet_Webspace"_s, [] { OpenAddress(Addresses::Webspace); }},
+         {u"Menu_Help_Internet_Domains"_s, [] { OpenAddress(Addresses::Domains); }},
+         {u"Menu_Help_Internet_Tools"_s, [] { OpenAddress(Addresses::Tools); }},
+         {u"Menu_Help_Internet_WAP"_s, [] { OpenAddress(Addresses::WAP); }},
+         {u"Menu_Help_MailToVelonar"_s, [] { OpenAddress(Addresses::Mail); }},
+         {u"Menu_Help_MailBug"_s, [] { OpenAddress(Addresses::MailBug); }},
+         {u"Menu_Help_Index"_s, [] { Neighbours::RunTool(u"Frm_Help"_s); }},
+         {u"Menu_Help_Info"_s, [] { Neighbours::RunTool(u"Frm_Info"_s); }},
+         {u"Menu_Help_Assistant"_s, [] { Neighbours::ShowAssistant(Flip(u"Menu_Help_Assistant"_s)); }}});
 }
 
 void AddViewHandlers(Handlers& handlers) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Calls to a window above or beside the caller. The start wires each once; a call that nobody has wired does
-// nothing and answers with an empty value. So every window can be built and tested with only what lies below it.
+// nothing and answers with an empty value. So every window can be built and tested with only what lies below
+// it.
 #pragma once
 
 #include <QString>
@@ -10,9 +11,9 @@
 class CodeBox;
 class Frm_Code;
 
-template <class Signature> class Neighbour;
+template<class Signature> class Neighbour;
 
-template <class Result, class... Arguments> class Neighbour<Result(Arguments...)> {
+template<class Result, class... Arguments> class Neighbour<Result(Arguments...)> {
 public:
     using Answer = std::function<Result(Arguments...)>;
 
@@ -40,8 +41,8 @@ struct MainPlace {
 };
 inline Neighbour<MainPlace()> ReadMainPlace;
 
-// The main window's size as the layout formulas take it, in twips: its client area plus 180 in width and 1370 in
-// height. 0 before it exists. Answered by Frm_Main.
+// The main window's size as the layout formulas take it, in twips: its client area plus 180 in width and 1370
+// in height. 0 before it exists. Answered by Frm_Main.
 struct Size {
     int width = 0;
     int height = 0;
@@ -49,33 +50,34 @@ struct Size {
 inline Neighbour<Size()> MainSize;
 
 // Frm_Main.
-inline Neighbour<void()> ActivateFunktions;                        // recomputes which commands are open
-inline Neighbour<void(const QString&)> SetMainCaption;             // window title; empty for the one at rest
-inline Neighbour<void(int, const QString&)> SetStatusPanel;        // panel of the status bar, from 1, and its text
-inline Neighbour<void(const QString&, const QString&)> AddMenuAttribute; // caption and tag of a new menu entry
+inline Neighbour<void()> ActivateFunktions;                 // recomputes which commands are open
+inline Neighbour<void(const QString&)> SetMainCaption;      // window title; empty for the one at rest
+inline Neighbour<void(int, const QString&)> SetStatusPanel; // panel of the status bar, from 1, and its text
+inline Neighbour<void(const QString&, const QString&)>
+    AddMenuAttribute; // caption and tag of a new menu entry
 inline Neighbour<void()> UnloadMenuAttributes;
-inline Neighbour<void(int, int)> PopupCodeMenu;                    // Menu_Code at a place of the screen, in pixels
-inline Neighbour<void(bool)> ShowPleaseWait;                       // the busy picture
-inline Neighbour<void(int)> SetWorkProgress;                       // percent of Prb_Work; below 0 hides it
+inline Neighbour<void(int, int)> PopupCodeMenu; // Menu_Code at a place of the screen, in pixels
+inline Neighbour<void(bool)> ShowPleaseWait;    // the busy picture
+inline Neighbour<void(int)> SetWorkProgress;    // percent of Prb_Work; below 0 hides it
 
 // The code box of the one document window, which is loaded by this call if needed. Answered by Frm_Code.
 inline Neighbour<CodeBox*()> TheCodeBox;
-inline Neighbour<void()> FocusCode;    // brings Frm_Code to the front, focus in the code box
-inline Neighbour<void()> ShowCodeWindow; // brings Frm_Code to the front
-inline Neighbour<bool()> ScriptBarShown; // whether the script bar of a loaded Frm_Code is uncovered
+inline Neighbour<void()> FocusCode;       // brings Frm_Code to the front, focus in the code box
+inline Neighbour<void()> ShowCodeWindow;  // brings Frm_Code to the front
+inline Neighbour<bool()> ScriptBarShown;  // whether the script bar of a loaded Frm_Code is uncovered
 inline Neighbour<void()> ActivateToolBar; // of Frm_Code
-inline Neighbour<void()> CheckOnce;       // runs the check, if the debugger is shown, once per change of the text
+inline Neighbour<void()> CheckOnce; // runs the check, if the debugger is shown, once per change of the text
 
 // The aids that are attached to the code box. Answered by the editing folder.
-inline Neighbour<void(Frm_Code*)> AttachToCode;  // the window is loading; nothing when it has gone
-inline Neighbour<void()> HidePopupList;          // Lvw_Attributes and Pic_Shadow
+inline Neighbour<void(Frm_Code*)> AttachToCode;         // the window is loading; nothing when it has gone
+inline Neighbour<void()> HidePopupList;                 // Lvw_Attributes and Pic_Shadow
 inline Neighbour<void(const QString&)> InsertAttribute; // of the tag under the last right click
-inline Neighbour<void(double)> OpenAutoWord;     // completes the word at the caret, to which the offset is added
-inline Neighbour<void()> InsertCurrentVariable;  // the one chosen in the script bar
-inline Neighbour<void()> WatchTagForAssistant;   // after a change
-inline Neighbour<void()> SubstituteUmlauts;      // after a change
-inline Neighbour<void(int, int)> CodeKeyDown;    // key code and shift mask, before the box acts
-inline Neighbour<void(int, int)> CodeKeyUp;      // key code and shift mask, behind the box's action
+inline Neighbour<void(double)> OpenAutoWord; // completes the word at the caret, to which the offset is added
+inline Neighbour<void()> InsertCurrentVariable; // the one chosen in the script bar
+inline Neighbour<void()> WatchTagForAssistant;  // after a change
+inline Neighbour<void()> SubstituteUmlauts;     // after a change
+inline Neighbour<void(int, int)> CodeKeyDown;   // key code and shift mask, before the box acts
+inline Neighbour<void(int, int)> CodeKeyUp;     // key code and shift mask, behind the box's action
 inline Neighbour<void(int, int, double, double)> CodeMouseDown; // button, shift mask, x and y in twips
 inline Neighbour<void(double, double)> CodeMouseMove;           // x and y in twips
 inline Neighbour<void()> CodeLostFocus;
@@ -92,11 +94,11 @@ inline Neighbour<void()> LayoutDebugger;
 inline Neighbour<void()> ShowProjectManager;
 inline Neighbour<int()> ProjectManagerWidth; // twips, 0 when not loaded
 inline Neighbour<void()> LayoutProjectManager;
-inline Neighbour<void()> SearchLinks;     // Frm_ProjectManager
-inline Neighbour<void()> DeleteFileIndex; // Frm_ProjectManager: empties its list
-inline Neighbour<void()> RefreshProject;  // Frm_ProjectManager: refreshes its list
-inline Neighbour<QString()> ReturnIndexFile; // Frm_ProjectManager: path of the project's index page
-inline Neighbour<void()> UpdateClassList; // Frm_FormatSubClass
+inline Neighbour<void()> SearchLinks;          // Frm_ProjectManager
+inline Neighbour<void()> DeleteFileIndex;      // Frm_ProjectManager: empties its list
+inline Neighbour<void()> RefreshProject;       // Frm_ProjectManager: refreshes its list
+inline Neighbour<QString()> ReturnIndexFile;   // Frm_ProjectManager: path of the project's index page
+inline Neighbour<void()> UpdateClassList;      // Frm_FormatSubClass
 inline Neighbour<void(const QString&)> Browse; // Frm_Browser: to the front, navigates to the path
 inline Neighbour<void()> StartBrowser;         // browsing without a document
 inline Neighbour<void()> StartWAPBrowser;      // its counterpart for the WAP simulation

@@ -46,9 +46,7 @@ const std::initializer_list<ToolKeys>& Tools() {
 
 constexpr QStringView PlaceWords[] = {u"", u"Left", u"Top", u"Width", u"Height"};
 
-QString ToolKey(const ToolKeys& tool, int element) {
-    return tool.prefix.toString() + PlaceWords[element];
-}
+QString ToolKey(const ToolKeys& tool, int element) { return tool.prefix.toString() + PlaceWords[element]; }
 
 // The first run: nobody is told, the defaults are simply there.
 void InstallDefaults() {

@@ -9,8 +9,8 @@ namespace Settings {
 inline const QString BuildDate = QStringLiteral("17.07.02");
 inline const QString UpdateNumber = QStringLiteral("14.6");
 
-// The value of the first line that contains `key`: what stands behind its first "=", or the whole line if it has
-// none. An empty value and a missing key give `preset`. Where the file cannot be read, this installs the
+// The value of the first line that contains `key`: what stands behind its first "=", or the whole line if it
+// has none. An empty value and a missing key give `preset`. Where the file cannot be read, this installs the
 // defaults, writes the file and returns an empty text.
 QString GetSetting(const QString& key, const QString& preset);
 QString GetSetting(const QString& key, int preset);

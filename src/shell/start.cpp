@@ -42,8 +42,9 @@ namespace {
 
 // The standard dialogs speak German whatever the system speaks.
 void SpeakGerman(QApplication& application) {
-    QLocale::setDefault(QLocale::system().language() == QLocale::German ? QLocale::system()
-                                                                        : QLocale(QLocale::German, QLocale::Germany));
+    QLocale::setDefault(QLocale::system().language() == QLocale::German
+                            ? QLocale::system()
+                            : QLocale(QLocale::German, QLocale::Germany));
     auto* translator = new QTranslator(&application);
     if (translator->load(u"qtbase_de"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QApplication::installTranslator(translator);
@@ -88,7 +89,8 @@ int Main(int argc, char** argv) {
     SpeakGerman(application);
     ConnectClipboard();
     Dialogs::QtHandler dialogs([] {
-        return Global::CurrentFile.isEmpty() ? QString() : Files::ToSystem(Global::ParentPath(Global::CurrentFile));
+        return Global::CurrentFile.isEmpty() ? QString()
+                                             : Files::ToSystem(Global::ParentPath(Global::CurrentFile));
     });
     Dialogs::Install(&dialogs);
     Wiring::WireWindows();
@@ -134,8 +136,9 @@ void Frm_Main::RestorePlace() {
     // A window from a larger or second screen comes back where it can be seen and used.
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     place.setSize(place.size().expandedTo({480, 360}));
-    const bool visible = std::any_of(QGuiApplication::screens().begin(), QGuiApplication::screens().end(),
-                                     [&](const QScreen* one) { return one->availableGeometry().intersects(place); });
+    const bool visible =
+        std::any_of(QGuiApplication::screens().begin(), QGuiApplication::screens().end(),
+                    [&](const QScreen* one) { return one->availableGeometry().intersects(place); });
     if (!visible) place.moveTopLeft(screen.topLeft());
     move(place.topLeft());
     resize(place.size());

@@ -17,11 +17,14 @@ struct PanelRow {
     QStringView text;
     QStringView widest;
 };
-constexpr PanelRow Panels[] = {
-    {u"Panel_Type", u"Bereit", u"StyleSheet"},   {u"Panel_State", u"Bereit", u"gespeichert"},
-    {u"Panel_Work", u"", u""},                   {u"Row", u"Zeile", u"Ze 00000"},
-    {u"Char", u"Zeichen", u"Sp 0000"},           {u"Panel_Date", u"", u"00.00.0000"},
-    {u"Panel_Time", u"", u"00:00"},              {u"Panel_Encoding", u"", u"Windows-1252 LF"}};
+constexpr PanelRow Panels[] = {{u"Panel_Type", u"Bereit", u"StyleSheet"},
+                               {u"Panel_State", u"Bereit", u"gespeichert"},
+                               {u"Panel_Work", u"", u""},
+                               {u"Row", u"Zeile", u"Ze 00000"},
+                               {u"Char", u"Zeichen", u"Sp 0000"},
+                               {u"Panel_Date", u"", u"00.00.0000"},
+                               {u"Panel_Time", u"", u"00:00"},
+                               {u"Panel_Encoding", u"", u"Windows-1252 LF"}};
 constexpr int WorkPanel = 3;
 constexpr int DatePanel = 6;
 constexpr int TimePanel = 7;

@@ -81,12 +81,14 @@ private slots:
         QTest::addColumn<QString>("before");
         QTest::addColumn<QString>("after");
         QTest::newRow("nearest open tag") << u"<div><p>Text|"_s << u"<div><p>Text</p>|"_s;
-        QTest::newRow("past tags without closing") << u"<p>a<br><img src=x>b|"_s << u"<p>a<br><img src=x>b</p>|"_s;
+        QTest::newRow("past tags without closing")
+            << u"<p>a<br><img src=x>b|"_s << u"<p>a<br><img src=x>b</p>|"_s;
         QTest::newRow("attributes") << u"<td width=5>x|"_s << u"<td width=5>x</td>|"_s;
         QTest::newRow("inside a tag") << u"<a href|"_s << u"<a href|"_s;
         QTest::newRow("inside a tag that ends later") << u"<a href|>x"_s << u"<a href|>x"_s;
         QTest::newRow("behind a closing tag") << u"<p>x</p>|"_s << u"<p>x</p>|"_s;
-        QTest::newRow("name cut by a line break") << u"<table\r\nborder=1>|"_s << u"<table\r\nborder=1></table>|"_s;
+        QTest::newRow("name cut by a line break")
+            << u"<table\r\nborder=1>|"_s << u"<table\r\nborder=1></table>|"_s;
         QTest::newRow("name cut by a tab") << u"<table\tborder=1>|"_s << u"<table\tborder=1></table>|"_s;
         QTest::newRow("only tags without closing") << u"<br><br>|"_s << u"<br><br>|"_s;
         QTest::newRow("at the start") << u"|<p>"_s << u"|<p>"_s;
@@ -147,7 +149,8 @@ private slots:
         QTest::newRow("two") << u"function a() {}\r\nfunction b(x) {}"_s << QStringList{u"a"_s, u"b"_s};
         QTest::newRow("twice") << u"function a() {}\r\nfunction a() {}"_s << QStringList{u"a"_s};
         QTest::newRow("brace in place of a bracket") << u"function a {"_s << QStringList{u"a "_s};
-        QTest::newRow("over a line break") << u"function a\r\nb() {}\r\nfunction c()"_s << QStringList{u"c"_s};
+        QTest::newRow("over a line break")
+            << u"function a\r\nb() {}\r\nfunction c()"_s << QStringList{u"c"_s};
         QTest::newRow("second keyword") << u"function function a()"_s << QStringList{u"a"_s};
         QTest::newRow("in a comment") << u"// a function is (\r\n"_s << QStringList{u"is "_s};
         QTest::newRow("without a name") << u"function (x) {}"_s << QStringList{QString()};
@@ -183,10 +186,10 @@ private slots:
         QCOMPARE(m_box.SelText(), u"Seite.HTM"_s);
         QVERIFY(front);
         ScriptedDialogs dialogs;
-        dialogs.ExpectMessage(u"ProjektManager"_s, u"Der Link kann nicht gefunden werden."_s, Dialogs::Answer::Ok,
-                              Dialogs::Icon::Exclamation);
-        dialogs.ExpectMessage(u"Fehler"_s, u"Unerwarteter Fehler beim Durchsuchen des Textes."_s, Dialogs::Answer::Ok,
-                              Dialogs::Icon::Critical);
+        dialogs.ExpectMessage(u"ProjektManager"_s, u"Der Link kann nicht gefunden werden."_s,
+                              Dialogs::Answer::Ok, Dialogs::Icon::Exclamation);
+        dialogs.ExpectMessage(u"Fehler"_s, u"Unerwarteter Fehler beim Durchsuchen des Textes."_s,
+                              Dialogs::Answer::Ok, Dialogs::Icon::Critical);
         GoToLink(u"andere.htm"_s);
         GoToLink({});
     }
@@ -206,8 +209,8 @@ private slots:
         const auto repeated = [](const QString& piece) { return piece.repeated(Size / piece.size()); };
         QElapsedTimer timer;
         timer.start();
-        for (const QString& piece : {u"<"_s, u"<b"_s, u"<br>"_s, u">"_s, u"function "_s, u"var "_s, u"1,"_s, u"1"_s,
-                                     u"function a "_s, u"var a,"_s}) {
+        for (const QString& piece : {u"<"_s, u"<b"_s, u"<br>"_s, u">"_s, u"function "_s, u"var "_s, u"1,"_s,
+                                     u"1"_s, u"function a "_s, u"var a,"_s}) {
             const QString text = repeated(piece);
             QString page = text;
             LowerCaseTags(page);

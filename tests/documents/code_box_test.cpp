@@ -106,7 +106,8 @@ private slots:
         QRandomGenerator random(11);
         TextBuffer plain;
         Txt_Code screen;
-        const QStringList pieces{u"a"_s, u"\n"_s, u"\r\n"_s, u"xyz"_s, QString(), u"\r"_s, u"ü\u2029"_s, u"b\nc\n"_s};
+        const QStringList pieces{u"a"_s,    u"\n"_s, u"\r\n"_s,    u"xyz"_s,
+                                 QString(), u"\r"_s, u"ü\u2029"_s, u"b\nc\n"_s};
         for (int round = 0; round < 3000; ++round) {
             const int what = random.bounded(20);
             const qsizetype start = random.bounded(int(plain.Text().size()) + 1);

@@ -53,7 +53,8 @@ private slots:
             Global::HeldSource = m_box->Text();
             Global::CodeWindowOpen = false;
         });
-        Neighbours::SetStatusPanel.AnsweredBy([this](int panel, const QString& text) { m_panels[panel] = text; });
+        Neighbours::SetStatusPanel.AnsweredBy(
+            [this](int panel, const QString& text) { m_panels[panel] = text; });
         Neighbours::SetMainCaption.AnsweredBy([this](const QString& text) { m_caption = text; });
         Neighbours::Browse.AnsweredBy([this](const QString&) { m_calls << u"browse"_s; });
         Neighbours::CheckSyntax.AnsweredBy([this] { m_calls << u"check"_s; });
@@ -64,7 +65,8 @@ private slots:
     }
     void cleanup() {
         m_folder.reset();
-        Global::CodeWindowOpen = Global::DebuggerOpen = Global::ProjectWindowOpen = Global::AssistantOpen = false;
+        Global::CodeWindowOpen = Global::DebuggerOpen = Global::ProjectWindowOpen = Global::AssistantOpen =
+            false;
     }
 
     void tellsTypesOnOpening_data() {
@@ -73,13 +75,15 @@ private slots:
         QTest::addColumn<QString>("type");
         QTest::addColumn<QString>("panel");
         QTest::addColumn<QString>("saved"); // type after saving
-        const auto row = [](const char* title, const QString& name, const QByteArray& content, const QString& type,
-                            const QString& panel, const QString& saved) {
+        const auto row = [](const char* title, const QString& name, const QByteArray& content,
+                            const QString& type, const QString& panel, const QString& saved) {
             QTest::newRow(title) << name << content << type << panel << saved;
         };
-        row("HTML", u"a.htm"_s, "<!doctype html public \"-//w3c//dtd html 4.01 //en\">", u"HTML"_s, u"HTML"_s, u"HTML"_s);
+        row("HTML", u"a.htm"_s, "<!doctype html public \"-//w3c//dtd html 4.01 //en\">", u"HTML"_s, u"HTML"_s,
+            u"HTML"_s);
         row("XHTML", u"a.htm"_s, "-//W3C//DTD XHTML 1.0", u"XHTML"_s, u"XHTML"_s, u"XHTML"_s);
-        row("order of the list", u"a.htm"_s, "-//W3C//DTD XHTML <!-- -//W3C//DTD HTML -->", u"HTML"_s, u"HTML"_s, u"HTML"_s);
+        row("order of the list", u"a.htm"_s, "-//W3C//DTD XHTML <!-- -//W3C//DTD HTML -->", u"HTML"_s,
+            u"HTML"_s, u"HTML"_s);
         row("WML", u"a.txt"_s, "-//WAPFORUM//DTD WML 1.1", u"WML"_s, u"WAP"_s, u"WML"_s);
         row("wml without doctype", u"a.wml"_s, "<wml>", u"Text"_s, u"Text"_s, u"WML"_s);
         row("script", u"A.JS"_s, "var a;", u"JS"_s, u"JavaScript"_s, u"Text"_s);
@@ -118,10 +122,20 @@ private slots:
         row("no-break space at the end stays", "a\r\n\xA0", "a\r\n\xA0\r\n");
         row("umlauts", "\xE4\xF6\r\n", "\xE4\xF6\r\n");
         row("UTF-8", "\xC3\xA4\xF0\x9F\x98\x80\n", "\xC3\xA4\xF0\x9F\x98\x80\n");
-        row("mark", "\xEF\xBB\xBF" "a\r\n", "\xEF\xBB\xBF" "a\r\n");
+        row("mark",
+            "\xEF\xBB\xBF"
+            "a\r\n",
+            "\xEF\xBB\xBF"
+            "a\r\n");
         row("undefined bytes", "\x81\x8D\x8F\x90\x9D\r\n", "\x81\x8D\x8F\x90\x9D\r\n");
         row("mixed line ends", "a\nb\r\nc\rd", "a\r\nb\r\nc\r\nd\r\n");
-        row("separators", "a\xE2\x80\xA8" "b\xE2\x80\xA9" "c\r\n", "a\xE2\x80\xA8" "b\xE2\x80\xA9" "c\r\n");
+        row("separators",
+            "a\xE2\x80\xA8"
+            "b\xE2\x80\xA9"
+            "c\r\n",
+            "a\xE2\x80\xA8"
+            "b\xE2\x80\xA9"
+            "c\r\n");
         row("empty", "", "\r\n");
     }
     void keepsBytes() {
@@ -156,7 +170,8 @@ private slots:
     }
 
     void opensPictures() {
-        const QByteArray picture = QByteArray::fromHex("47494638396101000100800000ffffff00000021f9040a0d002c");
+        const QByteArray picture =
+            QByteArray::fromHex("47494638396101000100800000ffffff00000021f9040a0d002c");
         OpenFile(m_folder->Write(u"X.GIF"_s, picture));
         QCOMPARE(Global::DocType, u"IMG"_s);
         QCOMPARE(m_panels.value(1), u"Bild"_s);
@@ -185,8 +200,9 @@ private slots:
         QCOMPARE(m_calls, (QStringList{u"check"_s, u"debugger"_s, u"project"_s, u"links"_s}));
         Global::AssistantOpen = true;
         OpenFile(m_folder->Write(u"b.htm"_s, "x"));
-        QVERIFY(m_calls.contains(u"Huston, wir haben ein Problem. Der Dokumenttyp konnte nicht ermittelt werden. Die "
-                                 "Datei wird als Text geöffnet."_s));
+        QVERIFY(m_calls.contains(
+            u"Huston, wir haben ein Problem. Der Dokumenttyp konnte nicht ermittelt werden. Die "
+            "Datei wird als Text geöffnet."_s));
     }
 
     void keepsTheOldTextWhenLoadingFails_data() {
@@ -203,10 +219,11 @@ private slots:
         m_box->SetSelText(u"mein "_s);
         const QString caption = m_caption;
         ScriptedDialogs dialogs;
-        dialogs.ExpectMessage(u"Fehler"_s,
-                              u"Fehler beim Laden der Datei. Stellen Sie sicher, dass die Datei existiert und nicht "
-                              "geschützt ist."_s,
-                              Answer::Ok, Dialogs::Icon::Critical);
+        dialogs.ExpectMessage(
+            u"Fehler"_s,
+            u"Fehler beim Laden der Datei. Stellen Sie sicher, dass die Datei existiert und nicht "
+            "geschützt ist."_s,
+            Answer::Ok, Dialogs::Icon::Critical);
         OpenFile(m_folder->Path(name));
         QCOMPARE(Global::CurrentFile, m_folder->Path(name));
         QCOMPARE(Global::HeldSource, u"mein alter Text\r\n"_s);
@@ -300,7 +317,8 @@ private slots:
         QCOMPARE(Global::DialogFile, path);
         ScriptedDialogs dialogs;
         dialogs.ExpectOpenFile(u"Importieren"_s, m_folder->Path(u"fehlt.txt"_s));
-        dialogs.ExpectMessage(u"Fehler"_s, u"Fehler beim Laden der Datei."_s, Answer::Ok, Dialogs::Icon::Critical);
+        dialogs.ExpectMessage(u"Fehler"_s, u"Fehler beim Laden der Datei."_s, Answer::Ok,
+                              Dialogs::Icon::Critical);
         Menu_File_Import();
         QCOMPARE(m_box->Text(), u"<p>eins\r\nzwölf\r\n</p>"_s);
     }

@@ -28,7 +28,8 @@ private slots:
         m_area->show();
         MdiChild::SetHost(m_area.get());
         Neighbours::MainSize.AnsweredBy([] { return Neighbours::Size{12180, 10370}; });
-        Neighbours::SetStatusPanel.AnsweredBy([this](int panel, const QString& text) { m_panels[panel] = text; });
+        Neighbours::SetStatusPanel.AnsweredBy(
+            [this](int panel, const QString& text) { m_panels[panel] = text; });
         Neighbours::TheCodeBox.AnsweredBy([] { return Shared<Frm_Code>().TextBox; });
     }
     void cleanup() {
@@ -45,7 +46,8 @@ private slots:
         Shared<Frm_Code>().BringToFront();
         QVERIFY(Global::CodeWindowOpen);
         QCOMPARE(Shared<Frm_Code>().TextBox->Text(), u"<p>\r\n"_s);
-        QVERIFY(!Shared<Frm_Code>().AttributeText.isEmpty() && !Shared<Frm_Code>().ScriptObjectText.isEmpty());
+        QVERIFY(!Shared<Frm_Code>().AttributeText.isEmpty() &&
+                !Shared<Frm_Code>().ScriptObjectText.isEmpty());
         QCOMPARE(Undo::UndoRing(1), Undo::FreeMarker); // the text's coming back is no step
         Shared<Frm_Code>().TextBox->SetSelText(u"x"_s);
         QVERIFY(Global::DocChanged);
@@ -97,7 +99,8 @@ private slots:
         QTest::newRow("script") << u"\\a\\x.Js"_s << u"JS"_s << false << u"JavaScript Code"_s << 330;
         QTest::newRow("new script") << QString() << u"JS"_s << false << u"JavaScript Code"_s << 330;
         QTest::newRow("Basic") << u"\\a\\x.vbs"_s << u"VBS"_s << false << u"VBScript Code"_s << 0;
-        QTest::newRow("style sheet with bar") << u"\\a\\x.CSS"_s << u"CSS"_s << true << u"StyleSheet Code"_s << 330;
+        QTest::newRow("style sheet with bar")
+            << u"\\a\\x.CSS"_s << u"CSS"_s << true << u"StyleSheet Code"_s << 330;
     }
     void bringsItselfInLineWithTheType() {
         QFETCH(QString, file);

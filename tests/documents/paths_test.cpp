@@ -36,7 +36,8 @@ private slots:
         QCOMPARE(ResolveLink(u"x/y.htm"_s, u"\\site\\a\\"_s), u"\\site\\a\\x\\y.htm"_s);
         QCOMPARE(ResolveLink(u"../y.htm"_s, u"\\site\\a\\"_s), u"\\site\\y.htm"_s);
         QCOMPARE(ResolveLink(u"../../b/y.htm"_s, u"\\site\\a\\c\\"_s), u"\\site\\b\\y.htm"_s);
-        QCOMPARE(ResolveLink(u"a/../y.htm"_s, u"\\s\\"_s), u"\\s\\a\\..\\y.htm"_s); // only leading steps count
+        QCOMPARE(ResolveLink(u"a/../y.htm"_s, u"\\s\\"_s),
+                 u"\\s\\a\\..\\y.htm"_s); // only leading steps count
     }
 
     void givesUpAboveTheRoot() {
@@ -57,7 +58,8 @@ private slots:
         QTest::newRow("same folder") << u"\\s\\b.gif"_s << u"\\s\\a.htm"_s << u"b.gif"_s;
         QTest::newRow("folder below") << u"\\s\\p\\b.gif"_s << u"\\s\\a.htm"_s << u"p/b.gif"_s;
         QTest::newRow("sibling folder") << u"\\s\\b\\x.htm"_s << u"\\s\\d\\page.htm"_s << u"../b/x.htm"_s;
-        QTest::newRow("names that begin alike") << u"\\s\\ab\\x.htm"_s << u"\\s\\a\\p.htm"_s << u"../ab/x.htm"_s;
+        QTest::newRow("names that begin alike")
+            << u"\\s\\ab\\x.htm"_s << u"\\s\\a\\p.htm"_s << u"../ab/x.htm"_s;
         QTest::newRow("one up") << u"\\s\\x.htm"_s << u"\\s\\d\\p.htm"_s << u"../x.htm"_s;
         QTest::newRow("base folder") << u"\\s\\p\\x.gif"_s << u"\\s\\p\\"_s << u"x.gif"_s;
         QTest::newRow("base folder without end") << u"\\s\\p\\x.gif"_s << u"\\s\\p"_s << u"p/x.gif"_s;

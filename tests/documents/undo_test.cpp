@@ -114,7 +114,8 @@ private slots:
         for (int round = 0; round < 2000; ++round) {
             const int at = random.bounded(int(text.size()) + 1);
             const int cut = random.bounded(4);
-            text = text.first(at) + QString(random.bounded(4), QChar(u'a' + random.bounded(3))) + text.sliced(std::min<qsizetype>(at + cut, text.size()));
+            text = text.first(at) + QString(random.bounded(4), QChar(u'a' + random.bounded(3))) +
+                   text.sliced(std::min<qsizetype>(at + cut, text.size()));
             history.Push(text, 64);
             plain.push_front(text);
             if (plain.size() > 64) plain.pop_back();

@@ -106,8 +106,10 @@ private slots:
         QTest::addColumn<QString>("word");
         QTest::addColumn<QStringList>("candidates");
         const QStringList none;
-        QTest::newRow("one longer word, twice") << u" Vereinsheim Vereinsheim ver| "_s << u"ver"_s << QStringList{u"Vereinsheim"_s};
-        QTest::newRow("several") << u" abend abfahrt ab| "_s << u"ab"_s << QStringList{u"abend"_s, u"abfahrt"_s};
+        QTest::newRow("one longer word, twice")
+            << u" Vereinsheim Vereinsheim ver| "_s << u"ver"_s << QStringList{u"Vereinsheim"_s};
+        QTest::newRow("several") << u" abend abfahrt ab| "_s << u"ab"_s
+                                 << QStringList{u"abend"_s, u"abfahrt"_s};
         QTest::newRow("only itself") << u" ab AB ab| "_s << u"ab"_s << none;
         QTest::newRow("inside other words") << u" xab ab| "_s << u"ab"_s << none;
         QTest::newRow("umlauts") << u" Größe gr| "_s << u"gr"_s << QStringList{u"Größe"_s};
@@ -150,10 +152,12 @@ private slots:
         QTest::addColumn<int>("urgency"); // 0: nothing
         QTest::addColumn<QString>("says");
         const QString forgot = u"Ich glaube Sie haben vergessen den letzten Tag zu schließen."_s;
-        const QString stop = u"Haaalt, so etwas gibt es nicht. Nach einem Kleiner-Zeichen beginnt sofort der Name "
-                             "des Tag's"_s;
-        const QString unknown = u"Diesen Tag kenne ich nicht. Überprüfen Sie, ob Sie ihn richtig geschrieben haben. "
-                                "Falscher Tag: <%1>"_s;
+        const QString stop =
+            u"Haaalt, so etwas gibt es nicht. Nach einem Kleiner-Zeichen beginnt sofort der Name "
+            "des Tag's"_s;
+        const QString unknown =
+            u"Diesen Tag kenne ich nicht. Überprüfen Sie, ob Sie ihn richtig geschrieben haben. "
+            "Falscher Tag: <%1>"_s;
         QTest::newRow("known, at a blank") << u"<b |"_s << 1 << u"Fett. "_s;
         QTest::newRow("known, at its end") << u"<B>|"_s << 1 << u"Fett. "_s;
         QTest::newRow("text behind a tag") << u"<b>Wort |"_s << 1 << u"Fett. "_s;

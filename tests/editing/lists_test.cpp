@@ -60,10 +60,14 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QStringList>("entries");
-        QTest::newRow("block") << u"<t-td- align, width, <e- "_s << u"TD"_s << QStringList{u"align"_s, u"width"_s};
-        QTest::newRow("last without comma") << u"<t-td- align, width <e- "_s << u"td"_s << QStringList{u"align"_s};
-        QTest::newRow("over lines") << u"<t-td- align, width, <e- <t-tr- x, <e-"_s << u"tr"_s << QStringList{u"x"_s};
-        QTest::newRow("no end") << u"<t-td- align, width,"_s << u"td"_s << QStringList{u"align"_s, u"width"_s};
+        QTest::newRow("block") << u"<t-td- align, width, <e- "_s << u"TD"_s
+                               << QStringList{u"align"_s, u"width"_s};
+        QTest::newRow("last without comma")
+            << u"<t-td- align, width <e- "_s << u"td"_s << QStringList{u"align"_s};
+        QTest::newRow("over lines") << u"<t-td- align, width, <e- <t-tr- x, <e-"_s << u"tr"_s
+                                    << QStringList{u"x"_s};
+        QTest::newRow("no end") << u"<t-td- align, width,"_s << u"td"_s
+                                << QStringList{u"align"_s, u"width"_s};
         QTest::newRow("empty block") << u"<t-td- <e- a,"_s << u"td"_s << QStringList{};
     }
     void findsEntriesOfABlock() {
@@ -98,8 +102,8 @@ private slots:
         const ProgramFolder folder;
         QVERIFY(Lists::LoadTagList() && Lists::LoadNoCloseTags() && Lists::LoadWordChange());
         Lists::LoadEventNames();
-        for (const QString& tag : {u"html"_s, u"/table"_s, u"frameset"_s, u"card"_s, u"article"_s, u"svg"_s, u"math"_s,
-                                   u"!doctype"_s, u"?xml"_s, u"dialog"_s}) {
+        for (const QString& tag : {u"html"_s, u"/table"_s, u"frameset"_s, u"card"_s, u"article"_s, u"svg"_s,
+                                   u"math"_s, u"!doctype"_s, u"?xml"_s, u"dialog"_s}) {
             QVERIFY2(Lists::IsKnownTag(tag), qPrintable(tag));
         }
         for (const QString& tag : {u"br"_s, u"IMG"_s, u"!DOCTYPE"_s, u"?xml"_s, u"meta"_s}) {
@@ -118,7 +122,8 @@ private slots:
         QVERIFY(entries(u"a"_s).contains(u"href"_s) && entries(u"s"_s).contains(u"title"_s));
         const QString objects = Lists::ReadScriptObjects();
         QVERIFY(objects.count(u"<js-") >= 40);
-        QVERIFY(Lists::BlockEntries(objects, Lists::BlockStart(objects, u"document"_s)).contains(u"*getElementById"_s));
+        QVERIFY(Lists::BlockEntries(objects, Lists::BlockStart(objects, u"document"_s))
+                    .contains(u"*getElementById"_s));
         QVERIFY(Global::WordChangeList.count(u"<wß") >= 60);
         // every known tag has its help
         const QString help = Lists::ReadLinesJoined(u"assistant.hlp"_s).value_or(QString());

@@ -43,7 +43,8 @@ class Typing : public QObject {
         QStringList entries;
         QMenu* menu = Shared<Frm_Main>().Commands()->CodeMenu();
         for (const QAction* action : menu->actions()) {
-            if (action->objectName().startsWith(u"Menu_Menu_Code_Attribute_") && action->isVisible()) entries << action->text();
+            if (action->objectName().startsWith(u"Menu_Menu_Code_Attribute_") && action->isVisible())
+                entries << action->text();
         }
         menu->close();
         return entries;
@@ -123,7 +124,7 @@ private slots:
         }
         QCOMPARE(Box().Text(), u"<table width=\"\" border=1><b>x</b></table>"_s);
         QCOMPARE(Box().SelStart(), 14); // between the quotes
-        RightClick(29); // between two tags
+        RightClick(29);                 // between two tags
         QCOMPARE(MenuEntries(), QStringList());
         QVERIFY(!List().isVisible());
     }
@@ -203,7 +204,9 @@ private slots:
         Driver::Trigger(u"Menu_Insert_JavaScript_CurrentVar"_s);
         QVERIFY(Box().Text().contains(u"zahlfunction zwei"));
         Box().SetSelStart(Box().Text().size());
-        Driver::FindControl(u"Tlb_JavaScript"_s)->findChild<QAction*>(u"Tlb_JavaScript_NewFunction"_s)->trigger();
+        Driver::FindControl(u"Tlb_JavaScript"_s)
+            ->findChild<QAction*>(u"Tlb_JavaScript_NewFunction"_s)
+            ->trigger();
         QVERIFY(Box().Text().endsWith(u"function NeueFunktion()\r\n{\r\n\t\r\n\t\r\n}"));
         QCOMPARE(Box().SelStart(), Box().Text().size() - 4);
     }

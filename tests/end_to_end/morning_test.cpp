@@ -33,7 +33,9 @@ private slots:
         row("LF", "<p>\n</p>\n", "\xFC\x80<p>\n</p>\n");
         row("UTF-8", "\xC3\xA4\r\n", "\xC3\xBC\xE2\x82\xAC\xC3\xA4\r\n");
         row("UTF-8 with mark", "\xEF\xBB\xBF<p>\n", "\xEF\xBB\xBF\xC3\xBC\xE2\x82\xAC<p>\n");
-        row("no final line end", "a\r\nb", "\xFC\x80" "a\r\nb\r\n");
+        row("no final line end", "a\r\nb",
+            "\xFC\x80"
+            "a\r\nb\r\n");
         row("undefined bytes", "\x81\x8D\x8F\x90\x9D\r\n", "\xFC\x80\x81\x8D\x8F\x90\x9D\r\n");
     }
     void leavesExactlyTheExpectedBytes() {
@@ -75,8 +77,9 @@ private slots:
         };
         for (const QString& name :
              {u"index.htm"_s, u"rahmen.htm"_s, u"aktuell/neuigkeiten.html"_s, u"verein/vorstand.html"_s,
-              u"verein/lageplan.htm"_s, u"verein/kontakt.htm"_s, u"heute/gartenjahr.html"_s, u"heute/gartenjahr.js"_s,
-              u"stil/verein.css"_s, u"skripte/rechner.vbs"_s, u"dateien/preisliste.txt"_s, u"wap/index.wml"_s}) {
+              u"verein/lageplan.htm"_s, u"verein/kontakt.htm"_s, u"heute/gartenjahr.html"_s,
+              u"heute/gartenjahr.js"_s, u"stil/verein.css"_s, u"skripte/rechner.vbs"_s,
+              u"dateien/preisliste.txt"_s, u"wap/index.wml"_s}) {
             visit(name);
         }
         QCOMPARE(pages, 12);

@@ -28,15 +28,22 @@ private slots:
         QTest::addColumn<bool>("mark");
         QTest::addColumn<bool>("lfOnly");
         QTest::addColumn<QString>("name");
-        const auto row = [](const char* title, const QByteArray& bytes, bool utf8, bool mark, bool lf, const QString& name) {
+        const auto row = [](const char* title, const QByteArray& bytes, bool utf8, bool mark, bool lf,
+                            const QString& name) {
             QTest::newRow(title) << bytes << utf8 << mark << lf << name;
         };
         row("ASCII", "a\r\nb", false, false, false, u"Windows-1252"_s);
         row("ASCII with LF", "a\nb\n", false, false, true, u"Windows-1252 LF"_s);
-        row("one byte an umlaut", "gr\xFC" "n\r\n", false, false, false, u"Windows-1252"_s);
+        row("one byte an umlaut",
+            "gr\xFC"
+            "n\r\n",
+            false, false, false, u"Windows-1252"_s);
         row("UTF-8", "gr\xC3\xBCn\n", true, false, true, u"UTF-8 LF"_s);
         row("UTF-8 with mark", "\xEF\xBB\xBFgr\xC3\xBCn", true, true, false, u"UTF-8 mit Marke"_s);
-        row("mark and ASCII", "\xEF\xBB\xBF" "abc", true, true, false, u"UTF-8 mit Marke"_s);
+        row("mark and ASCII",
+            "\xEF\xBB\xBF"
+            "abc",
+            true, true, false, u"UTF-8 mit Marke"_s);
         row("mark alone", "\xEF\xBB\xBF", true, true, false, u"UTF-8 mit Marke"_s);
         row("mark before bytes that are none", "\xEF\xBB\xBF\xFC", false, false, false, u"Windows-1252"_s);
         row("cut in the middle of a character", "gr\xC3", false, false, false, u"Windows-1252"_s);
@@ -64,7 +71,8 @@ private slots:
 
     void writesUtf8RatherThanLosingACharacter() {
         CodePage::Format format;
-        QCOMPARE(CodePage::Encode(u"Łódź €"_s, format), QByteArray("\xC5\x81\xC3\xB3" "d\xC5\xBA \xE2\x82\xAC"));
+        QCOMPARE(CodePage::Encode(u"Łódź €"_s, format), QByteArray("\xC5\x81\xC3\xB3"
+                                                                   "d\xC5\xBA \xE2\x82\xAC"));
         QVERIFY(format.encoding == Encoding::Utf8 && !format.mark);
         format = {};
         QCOMPARE(CodePage::Encode(u"ä€"_s, format), QByteArray("\xE4\x80"));

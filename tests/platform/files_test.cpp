@@ -22,7 +22,8 @@ private slots:
 #endif
         const ProgramFolder folder(ProgramFolder::Content::Empty);
         QDir::setCurrent(folder.System(u"."_s));
-        QCOMPARE(Files::MakeFull(u"sub\\x.htm"_s), Files::FromSystem(QDir::current().absoluteFilePath(u"sub/x.htm"_s)));
+        QCOMPARE(Files::MakeFull(u"sub\\x.htm"_s),
+                 Files::FromSystem(QDir::current().absoluteFilePath(u"sub/x.htm"_s)));
         QDir::setCurrent(QDir::rootPath());
     }
 
@@ -50,7 +51,8 @@ private slots:
         QVERIFY(Files::Write(folder.Path(u"page.htm"_s), "new text"));
         QCOMPARE(folder.Read(u"page.htm"_s), QByteArray("new text"));
         QCOMPARE(QFileInfo(folder.System(u"page.htm"_s)).permissions(), permissions);
-        QCOMPARE(QDir(folder.System(u"."_s)).entryList(QDir::Files), QStringList{u"page.htm"_s}); // nothing left over
+        QCOMPARE(QDir(folder.System(u"."_s)).entryList(QDir::Files),
+                 QStringList{u"page.htm"_s}); // nothing left over
         QVERIFY(!Files::Write(folder.Path(u"none/page.htm"_s), "x"));
         QVERIFY(!Files::Write(folder.Path(u"."_s), "x"));
     }

@@ -37,7 +37,8 @@ private slots:
         QCOMPARE(shortcuts.size(), 25);
         // every button and entry runs a command that exists
         for (const Commands::ToolBarRow& row : Commands::ToolBar()) {
-            if (!row.key.isEmpty()) QVERIFY2(names.contains(row.command.toString()), qPrintable(row.key.toString()));
+            if (!row.key.isEmpty())
+                QVERIFY2(names.contains(row.command.toString()), qPrintable(row.key.toString()));
         }
         for (const Commands::DropDownRow& row : Commands::DropDowns()) {
             QVERIFY2(names.contains(row.command.toString()), qPrintable(row.key.toString()));
@@ -50,7 +51,8 @@ private slots:
     void opensCommandsByState_data() {
         using Activation::Snapshot;
         QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("states"); // of: nothing, new, file, selected, script, picture, preview and code
+        QTest::addColumn<QString>(
+            "states"); // of: nothing, new, file, selected, script, picture, preview and code
         QTest::newRow("save") << u"Menu_File_Save"_s << u"0111111"_s;
         QTest::newRow("save button") << u"ToolBar_SaveFile"_s << u"0111111"_s;
         QTest::newRow("open") << u"Menu_File_Open"_s << u"1111111"_s;

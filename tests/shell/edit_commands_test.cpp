@@ -59,9 +59,12 @@ private slots:
         QTest::newRow("too large") << u"99999999999999999999"_s << 3 << u"99999999999999999999"_s;
     }
     void changesTheSelection() {
-        void (*commands[])() = {Menu_Edit_EditString_UCase,      Menu_Edit_EditString_LCase,
-                                Menu_Edit_EditString_Turn,       Menu_Edit_ChangeDigitSystem_Hex,
-                                Menu_Edit_ChangeDigitSystem_Okt, Menu_Edit_ChangeDigitSystem_Bin,
+        void (*commands[])() = {Menu_Edit_EditString_UCase,
+                                Menu_Edit_EditString_LCase,
+                                Menu_Edit_EditString_Turn,
+                                Menu_Edit_ChangeDigitSystem_Hex,
+                                Menu_Edit_ChangeDigitSystem_Okt,
+                                Menu_Edit_ChangeDigitSystem_Bin,
                                 Menu_Edit_Delete};
         QFETCH(QString, text);
         QFETCH(int, command);

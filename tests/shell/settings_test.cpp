@@ -25,13 +25,30 @@ private slots:
         QVERIFY(Commands::IsChecked(u"Menu_Help_Assistant"_s));
         const QList<QByteArray> lines = folder.Read(u"edit.ini"_s).split('\n');
         QCOMPARE(lines.size(), 93); // 92 lines, and nothing behind the last line end
-        const QHash<int, QByteArray> expected{
-            {1, "// Sorvane HTML Editor 3.0 - options"}, {2, "UpDate=17.07.02"},  {3, "UpDateNo=14.6"},  {4, ""},
-            {6, "Left=15"},           {9, "Height=6000"},          {10, "WindowState=0"},     {13, "Assistant=True"},
-            {16, "WorkScreenSkin="},  {20, "AutoMaximize=True"},   {24, "LastFile="},         {36, "Key9="},
-            {41, "DebugJavaScript=True"}, {43, "DebugAccuracy=100"}, {46, "MaxLinkDeep=1"},   {52, "FTP_Address="},
-            {56, "TagToolLeft=600"},  {58, "TagToolWidth="},       {63, "ColorToolTop=600"},  {77, "CharactersToolHeight="},
-            {85, "NavigationTop=600"}, {87, "// linezoom"},        {91, "LineZoomHeight="},   {92, ""}};
+        const QHash<int, QByteArray> expected{{1, "// Sorvane HTML Editor 3.0 - options"},
+                                              {2, "UpDate=17.07.02"},
+                                              {3, "UpDateNo=14.6"},
+                                              {4, ""},
+                                              {6, "Left=15"},
+                                              {9, "Height=6000"},
+                                              {10, "WindowState=0"},
+                                              {13, "Assistant=True"},
+                                              {16, "WorkScreenSkin="},
+                                              {20, "AutoMaximize=True"},
+                                              {24, "LastFile="},
+                                              {36, "Key9="},
+                                              {41, "DebugJavaScript=True"},
+                                              {43, "DebugAccuracy=100"},
+                                              {46, "MaxLinkDeep=1"},
+                                              {52, "FTP_Address="},
+                                              {56, "TagToolLeft=600"},
+                                              {58, "TagToolWidth="},
+                                              {63, "ColorToolTop=600"},
+                                              {77, "CharactersToolHeight="},
+                                              {85, "NavigationTop=600"},
+                                              {87, "// linezoom"},
+                                              {91, "LineZoomHeight="},
+                                              {92, ""}};
         for (auto line = expected.begin(); line != expected.end(); ++line) {
             QCOMPARE(lines[line.key() - 1], line.value() + "\r");
         }
@@ -39,7 +56,8 @@ private slots:
 
     void keepsAnUnreadableFile() {
         const ProgramFolder folder(ProgramFolder::Content::Empty);
-        QVERIFY(QFile::link(folder.System(u"edit.ini"_s), folder.System(u"edit.ini"_s))); // can never be opened
+        QVERIFY(
+            QFile::link(folder.System(u"edit.ini"_s), folder.System(u"edit.ini"_s))); // can never be opened
         QCOMPARE(GetSetting(u"Left"_s, 7), QString());
         QCOMPARE(int(Global::FirstStart), 2);
     }
@@ -49,9 +67,12 @@ private slots:
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("value");
         QTest::newRow("plain") << QByteArray("a=1\r\nKey=x\r\n") << u"Key"_s << u"x"_s;
-        QTest::newRow("value of an earlier line") << QByteArray("LastFile=/Key1.htm\r\nKey1=x\r\n") << u"Key1"_s << u"/Key1.htm"_s;
-        QTest::newRow("comment") << QByteArray("// Left is here\r\nLeft=5\r\n") << u"Left"_s << u"// Left is here"_s;
-        QTest::newRow("substring of a key") << QByteArray("TagToolLeft=9\r\nLeft=5\r\n") << u"Left"_s << u"9"_s;
+        QTest::newRow("value of an earlier line")
+            << QByteArray("LastFile=/Key1.htm\r\nKey1=x\r\n") << u"Key1"_s << u"/Key1.htm"_s;
+        QTest::newRow("comment") << QByteArray("// Left is here\r\nLeft=5\r\n") << u"Left"_s
+                                 << u"// Left is here"_s;
+        QTest::newRow("substring of a key")
+            << QByteArray("TagToolLeft=9\r\nLeft=5\r\n") << u"Left"_s << u"9"_s;
         QTest::newRow("value with a sign") << QByteArray("Key=a=b\r\n") << u"Key"_s << u"a=b"_s;
         QTest::newRow("empty value") << QByteArray("Key=\r\n") << u"Key"_s << u"preset"_s;
         QTest::newRow("missing") << QByteArray("a=1\r\n") << u"Key"_s << u"preset"_s;
@@ -81,7 +102,8 @@ private slots:
         Commands::SetChecked(u"Menu_Tools_AutoUml"_s, true);
         Commands::SetChecked(u"Menu_Debug_CSS"_s, false);
         QVERIFY(WriteSettings());
-        QVERIFY(folder.Read(u"edit.ini"_s).contains("Left=1\r\nTop=1\r\nWidth=12000\r\nHeight=9000\r\nWindowState=2\r\n"));
+        QVERIFY(folder.Read(u"edit.ini"_s)
+                    .contains("Left=1\r\nTop=1\r\nWidth=12000\r\nHeight=9000\r\nWindowState=2\r\n"));
         QVERIFY(folder.Read(u"edit.ini"_s).contains("Key3=<p><brk-</p>\r\n"));
         Global::Reset();
         Commands::ResetStates();
@@ -99,13 +121,14 @@ private slots:
 
     void passesOverBadValues() {
         const ProgramFolder folder(ProgramFolder::Content::Empty);
-        folder.Write(u"edit.ini"_s, "AutoUml=viel\r\nSaveSmallTags=true\r\nUseWindowsMenu=\r\nCurrentTip=abc\r\n"
-                                    "DebugAccuracy=\r\nDebugHTML=TRUE\r\nAutoDebug=true\r\nScriptMenu=True\r\n");
+        folder.Write(u"edit.ini"_s,
+                     "AutoUml=viel\r\nSaveSmallTags=true\r\nUseWindowsMenu=\r\nCurrentTip=abc\r\n"
+                     "DebugAccuracy=\r\nDebugHTML=TRUE\r\nAutoDebug=true\r\nScriptMenu=True\r\n");
         Commands::SetChecked(u"Menu_Tools_AutoUml"_s, true);
         Global::UseWindowsMenu = true;
         Global::CurrentTip = 5;
         LoadSettings();
-        QVERIFY(Commands::IsChecked(u"Menu_Tools_AutoUml"_s)); // kept what it had
+        QVERIFY(Commands::IsChecked(u"Menu_Tools_AutoUml"_s));   // kept what it had
         QVERIFY(!Commands::IsChecked(u"Menu_Tools_Option_2"_s)); // the second reading wants the exact word
         QVERIFY(Global::UseWindowsMenu && Global::AutoDebug);
         QCOMPARE(int(Global::CurrentTip), 5);

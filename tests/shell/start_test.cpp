@@ -42,7 +42,8 @@ private slots:
         QCOMPARE(Program::FileArgument(u"\"mein verein.htm\""_s), QString(here + u"\\mein verein.htm"));
         QCOMPARE(Program::FileArgument(u"a/b.htm"_s), QString(here + u"\\a\\b.htm"));
         QCOMPARE(Program::FileArgument(u"/x/b.htm"_s), u"\\x\\b.htm"_s);
-        QCOMPARE(Program::FileArgument(u"\"b.htm"_s), QString(here + u"\\\"b.htm")); // one quote is part of the name
+        QCOMPARE(Program::FileArgument(u"\"b.htm"_s),
+                 QString(here + u"\\\"b.htm")); // one quote is part of the name
     }
 
     void comesUpAndWritesItsSettings() {
@@ -50,7 +51,8 @@ private slots:
         ScriptedDialogs dialogs;
         {
             const Driver::RunningProgram program;
-            QVERIFY(folder.Read(u"edit.ini"_s).contains("WindowState=0")); // written before the window was shown
+            QVERIFY(
+                folder.Read(u"edit.ini"_s).contains("WindowState=0")); // written before the window was shown
             const Frm_Main& main = Shared<Frm_Main>();
             QVERIFY(main.isVisible() && main.isEnabled() && !Loaded<Frm_Load>());
             QVERIFY(main.isMaximized()); // as on every first run
@@ -146,17 +148,18 @@ private slots:
         Driver::TypeCode(u"neu "_s);
         Global::AutoPreView = true; // shows whether the settings were written
         if (!possible) Global::CurrentFile = folder.Path(u"weg\\seite.htm"_s);
-        dialogs.ExpectMessage(u"Beenden"_s,
-                              u"Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?"_s,
-                              save ? Dialogs::Answer::Yes : Dialogs::Answer::No, Dialogs::Icon::Question);
+        dialogs.ExpectMessage(
+            u"Beenden"_s, u"Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?"_s,
+            save ? Dialogs::Answer::Yes : Dialogs::Answer::No, Dialogs::Icon::Question);
         if (!possible) {
-            dialogs.ExpectMessage(u"Fehler"_s,
-                                  u"Fehler beim Speichern der Datei. Stellen Sie sicher, dass die Datei nicht "
-                                  "schreibgeschützt ist."_s);
+            dialogs.ExpectMessage(
+                u"Fehler"_s, u"Fehler beim Speichern der Datei. Stellen Sie sicher, dass die Datei nicht "
+                             "schreibgeschützt ist."_s);
         }
         Shared<Frm_Main>().close();
         QVERIFY(!Shared<Frm_Main>().isVisible());
-        QCOMPARE(folder.Read(u"seite.htm"_s), save && possible ? QByteArray("neu alt\r\n") : QByteArray("alt\r\n"));
+        QCOMPARE(folder.Read(u"seite.htm"_s),
+                 save && possible ? QByteArray("neu alt\r\n") : QByteArray("alt\r\n"));
         QCOMPARE(folder.Read(u"edit.ini"_s).contains("AutoPreView=True"), possible);
         QCOMPARE(folder.Read(u"bckup.tmp"_s), possible ? QByteArray() : QByteArray("neu alt\r\n\r\n"));
         QVERIFY(!folder.Has(u"tmp"_s) && !folder.Has(u"temp.htm"_s));

@@ -10,9 +10,10 @@ namespace Driver {
 
 // The control of that name in the program's windows; the test fails when there is none.
 QWidget* FindControl(const QString& name);
-template <class Control> Control* Find(const QString& name) {
+template<class Control> Control* Find(const QString& name) {
     auto* control = qobject_cast<Control*>(FindControl(name));
-    if (!control) QTest::qFail(qPrintable(QStringLiteral("no control of that kind: ") + name), __FILE__, __LINE__);
+    if (!control)
+        QTest::qFail(qPrintable(QStringLiteral("no control of that kind: ") + name), __FILE__, __LINE__);
     return control;
 }
 // Carries out a menu item, tool button or drop-down entry; the test fails when it is missing or disabled.
@@ -26,8 +27,8 @@ void PressCode(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 // Runs `inside` as soon as a modal dialog of that name is open.
 void InModal(const QString& dialog, std::function<void(QWidget*)> inside);
 
-// The whole program in a temporary program folder: the main window loaded as by a start, without a file. Goes as
-// by an exit without questions.
+// The whole program in a temporary program folder: the main window loaded as by a start, without a file. Goes
+// as by an exit without questions.
 class RunningProgram {
 public:
     RunningProgram();

@@ -32,7 +32,8 @@ QString ProgramFolder::System(const QString& name) const { return m_folder.fileP
 QString ProgramFolder::Write(const QString& name, const QByteArray& bytes) const {
     QDir().mkpath(QFileInfo(System(name)).path());
     QFile file(System(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write a test file");
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("cannot write a test file");
     return Path(name);
 }
 

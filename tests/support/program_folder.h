@@ -5,8 +5,8 @@
 #include <QString>
 #include <QTemporaryDir>
 
-// A temporary program directory with the shipped data files in it, and all shared state as before a start. Both
-// are taken back when it goes.
+// A temporary program directory with the shipped data files in it, and all shared state as before a start.
+// Both are taken back when it goes.
 class ProgramFolder {
 public:
     enum class Content { Empty, Data };

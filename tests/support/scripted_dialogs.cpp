@@ -10,8 +10,9 @@ ScriptedDialogs::ScriptedDialogs() : m_before(Dialogs::Install(this)) {}
 ScriptedDialogs::~ScriptedDialogs() {
     Dialogs::Install(m_before);
     for (const Step& step : m_script) {
-        QTest::qFail(qPrintable(u"expected but never asked: %1 '%2' %3"_s.arg(step.kind, step.title, step.text)),
-                     __FILE__, __LINE__);
+        QTest::qFail(
+            qPrintable(u"expected but never asked: %1 '%2' %3"_s.arg(step.kind, step.title, step.text)),
+            __FILE__, __LINE__);
     }
 }
 
@@ -38,7 +39,9 @@ void ScriptedDialogs::ExpectFolder(const QString& title, const QString& path) {
 
 void ScriptedDialogs::ExpectBeep() { m_script.push_back({u"beep"_s, {}, {}, {}}); }
 
-void ScriptedDialogs::ExpectAddress(const QString& address) { m_script.push_back({u"address"_s, address, {}, {}}); }
+void ScriptedDialogs::ExpectAddress(const QString& address) {
+    m_script.push_back({u"address"_s, address, {}, {}});
+}
 
 ScriptedDialogs::Step ScriptedDialogs::Take(const QString& kind, const QString& title, const QString& text) {
     const Step step = m_script.empty() ? Step{} : m_script.front();

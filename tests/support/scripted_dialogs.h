@@ -13,7 +13,8 @@ public:
     ScriptedDialogs();
     ~ScriptedDialogs() override;
 
-    void ExpectMessage(const QString& title, const QString& text, Dialogs::Answer answer = Dialogs::Answer::Ok,
+    void ExpectMessage(const QString& title, const QString& text,
+                       Dialogs::Answer answer = Dialogs::Answer::Ok,
                        Dialogs::Icon icon = Dialogs::Icon::None); // Icon::None: any
     void ExpectText(const QString& title, const QString& answer);
     void ExpectOpenFile(const QString& title, const QString& path);

@@ -14,7 +14,7 @@ bool Add(const char* name, std::function<std::unique_ptr<QObject>()> create);
 int Run(const QString& name, QStringList arguments);
 } // namespace TestRegistry
 
-#define REGISTER_TEST_AS(Name, Class)                                                                            \
-    [[maybe_unused]] static const bool registered##Class =                                                       \
+#define REGISTER_TEST_AS(Name, Class)                                                                        \
+    [[maybe_unused]] static const bool registered##Class =                                                   \
         TestRegistry::Add(#Name, [] { return std::make_unique<Class>(); })
 #define REGISTER_TEST(Class) REGISTER_TEST_AS(Class, Class)
