@@ -34,8 +34,10 @@ public:
     explicit RowDelegate(ErrorList* list) : QStyledItemDelegate(list), m_list(list) {}
 
     // Each of the first two columns draws its part of the same message.
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        if (index.column() == ReportModel::Position) return QStyledItemDelegate::paint(painter, option, index);
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        if (index.column() == ReportModel::Position)
+            return QStyledItemDelegate::paint(painter, option, index);
         const QStyleOptionViewItem row = RowOption(option, index);
         painter->save();
         painter->setClipRect(option.rect, Qt::IntersectClip);
@@ -111,13 +113,15 @@ ErrorList::ErrorList(QWidget* parent) : QTableView(parent) {
     // The columns reach beyond the window, but there is nothing out there for the user.
     setHorizontalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { horizontalScrollBar()->setValue(0); });
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this,
+            [this] { horizontalScrollBar()->setValue(0); });
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
-    connect(this, &QTableView::clicked, this, [this](const QModelIndex& index) { emit RowChosen(index.row()); });
+    connect(this, &QTableView::clicked, this,
+            [this](const QModelIndex& index) { emit RowChosen(index.row()); });
     FitRowHeight();
 }
 
@@ -137,7 +141,8 @@ void ErrorList::SetPicture(const QPixmap& picture) {
     QPalette under = viewport()->palette();
     under.setBrush(QPalette::Base, picture);
     viewport()->setPalette(under);
-    const QRgb mean = picture.toImage().scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixel(0, 0);
+    const QRgb mean =
+        picture.toImage().scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixel(0, 0);
     QPalette text = palette();
     text.setColor(QPalette::Text, qGray(mean) < 128 ? Qt::white : Qt::black);
     setPalette(text);
@@ -208,9 +213,8 @@ void ErrorList::scrollContentsBy(int dx, int dy) {
 }
 
 QModelIndex ErrorList::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
-    const QModelIndex first = model()->index(0, ReportModel::Description);
-    if (action == MoveHome || !currentIndex().isValid()) return first;
-    if (action == MoveEnd) return first.siblingAtRow(model()->rowCount() - 1);
+    if (action == MoveEnd) return model()->index(model()->rowCount() - 1, ReportModel::Description);
+    if (action == MoveHome || !currentIndex().isValid()) return model()->index(0, ReportModel::Description);
     if (action == MoveUp || action == MoveDown || action == MovePageUp || action == MovePageDown) {
         return QTableView::moveCursor(action, modifiers).siblingAtColumn(ReportModel::Description);
     }

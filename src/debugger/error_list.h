@@ -4,8 +4,8 @@
 #include <QTableView>
 #include <functional>
 
-// A report list: rows of one height, one of them selected, that are drawn as they come into sight. A message runs
-// on over the empty second column; what does not fit then shows whole in a tip.
+// A report list: rows of one height, one of them selected, that are drawn as they come into sight. A message
+// runs on over the empty second column; what does not fit then shows whole in a tip.
 class ErrorList : public QTableView {
     Q_OBJECT
 
@@ -26,8 +26,8 @@ public:
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
 signals:
-    void AboutToPress(); // a mouse button goes down; the rows may still change
-    void Released();     // behind a click's own signal
+    void AboutToPress();     // a mouse button goes down; the rows may still change
+    void Released();         // behind a click's own signal
     void RowChosen(int row); // clicked, or Enter pressed on it
     void EscapePressed();
 

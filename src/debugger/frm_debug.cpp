@@ -76,11 +76,13 @@ void Frm_DeBug::OnLoad() {
         Lvw_Errors->SetPicture(QPixmap(Files::ToSystem(Files::ProgramFile(u"skin.bmp"_s))));
     }
     if (Global::AssistantOpen) {
-        Neighbours::RunAnimation(
-            1, u"Dieser Debugger überprüft den HTML-Code und den CSS-Code gleich beim Schreiben. Klicken Sie auf eine "
-               "Fehlermeldung und der Fehler wird markiert. Im Menü 'Debugger' können Sie wählen, welcher Code geprüft "
-               "werden soll. Wenn der Debugvorgang zu langsam sein sollte, können Sie eine Funktion abschalten, um so "
-               "den Vorgang zu beschleunigen."_s);
+        Neighbours::RunAnimation(1, u"Dieser Debugger überprüft den HTML-Code und den CSS-Code gleich beim "
+                                    u"Schreiben. Klicken Sie auf eine "
+                                    "Fehlermeldung und der Fehler wird markiert. Im Menü 'Debugger' können "
+                                    "Sie wählen, welcher Code geprüft "
+                                    "werden soll. Wenn der Debugvorgang zu langsam sein sollte, können Sie "
+                                    "eine Funktion abschalten, um so "
+                                    "den Vorgang zu beschleunigen."_s);
     }
     ActualizeSize();
 }
@@ -95,14 +97,15 @@ void Frm_DeBug::Present() {
     RunOncePerActivation();
 }
 
-// --- the check ------------------------------------------------------------------------------------------------------
+// --- the check
+// ------------------------------------------------------------------------------------------------------
 
 void Frm_DeBug::Activated() { RunOncePerActivation(); }
 
 void Frm_DeBug::Deactivated() { m_checkedActive = false; }
 
-// The mouse may press a row before the window hears of its activation. The check comes first then, so that the
-// click meets a row of the new report.
+// The mouse may press a row before the window hears of its activation. The check comes first then, so that
+// the click meets a row of the new report.
 void Frm_DeBug::RunOncePerActivation() {
     if (m_checkedActive) return;
     m_checkedActive = true;
@@ -160,7 +163,8 @@ void Frm_DeBug::ActualizeSyntaxColors() {
     box->setExtraSelections(selections);
 }
 
-// --- place ----------------------------------------------------------------------------------------------------------
+// --- place
+// ----------------------------------------------------------------------------------------------------------
 
 bool Frm_DeBug::eventFilter(QObject* watched, QEvent* event) {
     const bool handled = MdiChild::eventFilter(watched, event);

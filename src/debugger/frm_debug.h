@@ -7,8 +7,8 @@
 
 class ErrorList;
 
-// The debugger: a strip below the code with the report of the checks. A click on a row selects in the code what
-// the row speaks of.
+// The debugger: a strip below the code with the report of the checks. A click on a row selects in the code
+// what the row speaks of.
 class Frm_DeBug : public MdiChild {
     Q_OBJECT
 

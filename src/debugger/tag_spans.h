@@ -13,8 +13,8 @@ struct TagSpan {
     bool operator==(const TagSpan&) const = default;
 };
 
-// All tags of `text` from its start to its end, those in comments and scripts too. A "<" without a ">" behind it
-// is none.
+// All tags of `text` from its start to its end, those in comments and scripts too. A "<" without a ">" behind
+// it is none.
 std::vector<TagSpan> TagSpans(QStringView text);
 
 } // namespace Debugger

@@ -10,7 +10,8 @@ void WireDebugger() {
     Neighbours::CheckSyntax.AnsweredBy([] {
         if (Global::DebuggerOpen) Shared<Frm_DeBug>().CheckSyntax();
     });
-    Neighbours::DebuggerHeight.AnsweredBy([] { return Global::DebuggerOpen ? Shared<Frm_DeBug>().Height() : 0; });
+    Neighbours::DebuggerHeight.AnsweredBy(
+        [] { return Global::DebuggerOpen ? Shared<Frm_DeBug>().Height() : 0; });
     Neighbours::LayoutDebugger.AnsweredBy([] {
         if (Global::DebuggerOpen) Shared<Frm_DeBug>().ActualizeSize();
     });

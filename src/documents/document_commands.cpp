@@ -109,6 +109,7 @@ bool OpenText(const QString& path, bool preview) {
             u"Huston, wir haben ein Problem. Der Dokumenttyp konnte nicht ermittelt werden. Die Datei wird "
             u"als Text "
             "geöffnet."_s);
+    Neighbours::ActivateToolBar(); // once more, now that the type is known: a script before must leave no trace
     RefreshWindows();
     return true;
 }

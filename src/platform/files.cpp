@@ -150,6 +150,8 @@ bool RemoveFolder(const QString& path) { return QDir(ToSystem(path)).removeRecur
 
 bool MoveToTrash(const QString& path) {
     const QString system = ToSystem(path);
+    // Without the folder that holds the trash, Qt 6.4 makes one in the current directory.
+    QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     if (QFile::moveToTrash(system)) return true;
     return QFileInfo(system).isDir() ? RemoveFolder(path) : Remove(path);
 }

@@ -8,6 +8,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <cmath>
 
 namespace {
 QPointer<QMdiArea>& HostArea() {
@@ -59,11 +60,12 @@ QWidget* MdiChild::Frame() const {
 void MdiChild::SetPlace(int left, int top, int width, int height) {
     m_placing = true;
     m_place = {left, top, width, height};
-    const int x = Twips::ToPixels(left);
-    const int y = Twips::ToPixels(top);
-    // both edges are rounded, so that neighbours meet without a gap
-    Frame()->setGeometry(x, y, std::max(1, Twips::ToPixels(left + width) - x),
-                         std::max(1, Twips::ToPixels(top + height) - y));
+    // Both edges are cut to whole pixels, so that neighbours meet without a gap and no window reaches beyond the
+    // client area by part of a pixel.
+    const auto edge = [](int twips) { return static_cast<int>(std::floor(double(twips) / Twips::PerPixel)); };
+    const int x = edge(left);
+    const int y = edge(top);
+    Frame()->setGeometry(x, y, std::max(1, edge(left + width) - x), std::max(1, edge(top + height) - y));
     m_placing = false;
     PlaceChanged(State());
 }

@@ -5,8 +5,8 @@
 #include <QString>
 #include <QUrl>
 
-// Which addresses the preview may load. While it is offline these are the local ones, and those of the network
-// that the user wished for: he typed them himself, went on from there, or browses without a document.
+// Which addresses the preview may load. While it is offline these are the local ones, and those of the
+// network that the user wished for: he typed them himself, went on from there, or browses without a document.
 class AccessRule {
 public:
     bool offline = true;
@@ -14,8 +14,8 @@ public:
 
     // The user typed the address.
     void Wish(const QUrl& url);
-    // Whether the window may go to `url`, called from the page `from`. A yes holds for the address's host from
-    // then on.
+    // Whether the window may go to `url`, called from the page `from`. A yes holds for the address's host
+    // from then on.
     bool AllowsPage(const QUrl& url, const QUrl& from);
     // What a page asks for: read by its script, shown in a frame, or anything else that it is made of.
     enum class Part { Data, Frame, Other };

@@ -30,8 +30,10 @@ QString ForSystem(const QUrl& url) { return QString::fromLatin1(url.toEncoded())
 
 bool IsNetwork(const QUrl& url) {
     if (url.scheme().isEmpty()) return false;
-    if (url.scheme() == u"file") return !url.host().isEmpty() && url.host() != u"localhost"; // a network share
-    static const QStringList local{u"data"_s, u"about"_s, u"blob"_s, u"qrc"_s, u"javascript"_s, u"chrome-error"_s};
+    if (url.scheme() == u"file")
+        return !url.host().isEmpty() && url.host() != u"localhost"; // a network share
+    static const QStringList local{u"data"_s, u"about"_s,      u"blob"_s,
+                                   u"qrc"_s,  u"javascript"_s, u"chrome-error"_s};
     return !local.contains(url.scheme());
 }
 

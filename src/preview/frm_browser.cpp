@@ -59,8 +59,9 @@ void Frm_Browser::OnUnload() {
 
 QWidget* Frm_Browser::MakeCrashNotice() {
     auto* notice = new QWidget(this);
-    auto* text = new QLabel(u"Die Anzeige dieser Seite ist unerwartet beendet worden.\nIhr Dokument ist davon nicht "
-                            "betroffen."_s);
+    auto* text =
+        new QLabel(u"Die Anzeige dieser Seite ist unerwartet beendet worden.\nIhr Dokument ist davon nicht "
+                   "betroffen."_s);
     text->setObjectName(u"Lbl_Crashed"_s);
     text->setAlignment(Qt::AlignCenter);
     text->setWordWrap(true);
@@ -120,7 +121,7 @@ void Frm_Browser::LoadFinished(bool ok) {
     emit DocumentComplete(Address());
 }
 
-// --- where it goes -------------------------------------------------------------------------------------------------
+// --- where it goes --------------------------------------------------------------------------------
 
 // A script without end holds its page's process, and with it every page that would follow.
 void Frm_Browser::ReplaceStuckPage() {
@@ -128,12 +129,12 @@ void Frm_Browser::ReplaceStuckPage() {
 }
 
 void Frm_Browser::Navigate(const QString& url) {
-    m_rule.browsingAlone = m_rule.browsingAlone && !Global::DocOpen;
     const QUrl address = BrowserAddress::FromText(url);
     if (!address.isValid()) return;
     ReplaceStuckPage();
     if (address == m_page->url()) {
-        m_page->triggerAction(QWebEnginePage::ReloadAndBypassCache); // its pictures and styles may be new, too
+        m_page->triggerAction(
+            QWebEnginePage::ReloadAndBypassCache); // its pictures and styles may be new, too
     } else {
         m_page->load(address);
     }
@@ -162,7 +163,7 @@ void Frm_Browser::Stop() { m_page->triggerAction(QWebEnginePage::Stop); }
 
 QString Frm_Browser::Address() const { return BrowserAddress::Shown(m_page->ShownAddress()); }
 
-// --- place ---------------------------------------------------------------------------------------------------------
+// --- place ----------------------------------------------------------------------------------------
 
 void Frm_Browser::Activated() {
     SetOffline(true);

@@ -27,7 +27,7 @@ public:
     // The same for an address that the user entered himself: it may come from the network.
     void NavigateByUser(const QString& url);
     // Browsing without a document: the network is open until a document is previewed.
-    void BrowseAlone() { m_rule.browsingAlone = true; }
+    void SetBrowsingAlone(bool alone) { m_rule.browsingAlone = alone; }
     void GoBack();
     void GoForward();
     void Refresh();
@@ -70,7 +70,7 @@ private:
     PreviewPage* m_page = nullptr;
     QStackedLayout* m_layers;
     QWidget* m_crashNotice;
-    QString m_restStatus; // shown while the mouse is over no link
+    QString m_restStatus;    // shown while the mouse is over no link
     QElapsedTimer m_loading; // running while a page is being loaded
 
     int BrowserSavedLeft = 0;

@@ -15,10 +15,13 @@
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QScreen>
 #include <QToolBar>
+#include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -29,7 +32,7 @@ constexpr int BarWidth = 540;  // pixels
 QWidget* Owner() { return MdiChild::Host() ? MdiChild::Host()->window() : nullptr; }
 
 // Carries out a step of the browser, where there is one.
-template <void (Frm_Browser::*step)()> void Press() {
+template<void (Frm_Browser::*step)()> void Press() {
     if (Loaded<Frm_Browser>()) (Shared<Frm_Browser>().*step)();
 }
 

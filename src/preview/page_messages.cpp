@@ -37,8 +37,8 @@ void PageMessages::Alert(QWidget* parent, const QString& text) {
 }
 
 bool PageMessages::Confirm(QWidget* parent, const QString& text) {
-    QMessageBox box(QMessageBox::Question, Title, text.left(LongestText), QMessageBox::Ok | QMessageBox::Cancel,
-                    parent);
+    QMessageBox box(QMessageBox::Question, Title, text.left(LongestText),
+                    QMessageBox::Ok | QMessageBox::Cancel, parent);
     return Run(box);
 }
 

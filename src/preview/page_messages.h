@@ -6,8 +6,8 @@
 class QMessageBox;
 class QWidget;
 
-// The messages that the scripts of a page bring up. From the second one of a page on, the user can silence the
-// rest, so that an endless row of them never holds the program.
+// The messages that the scripts of a page bring up. From the second one of a page on, the user can silence
+// the rest, so that an endless row of them never holds the program.
 class PageMessages {
 public:
     void Alert(QWidget* parent, const QString& text);

@@ -101,8 +101,8 @@ void Menu_View_Browser_Temp() {
         return;
     }
     if (Global::DebuggerOpen) Neighbours::CheckSyntax();
-    Say(u"Das ist eine Temporärvorschau, sie kann nur einwandfrei funktionieren, wenn die aktuelle Datei keine "
-        "externen CSS- oder Script- Dateien benutzt. Die aktuelle Datei wird bei dieser Vorschau nicht "
+    Say(u"Das ist eine Temporärvorschau, sie kann nur einwandfrei funktionieren, wenn die aktuelle Datei "
+        "keine externen CSS- oder Script- Dateien benutzt. Die aktuelle Datei wird bei dieser Vorschau nicht "
         "gespeichert."_s);
     Neighbours::Browse(file);
 }
@@ -110,7 +110,8 @@ void Menu_View_Browser_Temp() {
 void Menu_View_Browser_WAP() {
     if (!SaveFirst() || !TestKind(Global::CurrentFile)) return;
     if (!Neighbours::GenerateWAPPreview()) {
-        Dialogs::Tell(u"WAP-Simulation"_s, u"Diese Seite kann noch nicht für die WAP-Simulation umgewandelt werden."_s,
+        Dialogs::Tell(u"WAP-Simulation"_s,
+                      u"Diese Seite kann noch nicht für die WAP-Simulation umgewandelt werden."_s,
                       Dialogs::Icon::Information);
         return;
     }

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QPointer>
 #include <QTimer>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineNewWindowRequest>
@@ -24,12 +25,15 @@ namespace {
 
 AccessRule::Part PartOf(QWebEngineUrlRequestInfo::ResourceType type) {
     switch (type) {
-    case QWebEngineUrlRequestInfo::ResourceTypeXhr: return AccessRule::Part::Data;
+    case QWebEngineUrlRequestInfo::ResourceTypeXhr:
+        return AccessRule::Part::Data;
     case QWebEngineUrlRequestInfo::ResourceTypeSubFrame:
     case QWebEngineUrlRequestInfo::ResourceTypeNavigationPreloadSubFrame:
     case QWebEngineUrlRequestInfo::ResourceTypeObject:
-    case QWebEngineUrlRequestInfo::ResourceTypePluginResource: return AccessRule::Part::Frame;
-    default: return AccessRule::Part::Other;
+    case QWebEngineUrlRequestInfo::ResourceTypePluginResource:
+        return AccessRule::Part::Frame;
+    default:
+        return AccessRule::Part::Other;
     }
 }
 
@@ -46,7 +50,8 @@ void RequestGuard::interceptRequest(QWebEngineUrlRequestInfo& info) {
 void PreviewPage::Prepare(QWebEngineProfile* profile) {
     profile->setHttpAcceptLanguage(u"de-DE,de;q=0.9,en;q=0.6"_s);
     QWebEngineSettings* settings = profile->settings();
-    // Switched off it would refuse a local page its pictures, styles and links; the guard keeps its scripts in.
+    // Switched off it would refuse a local page its pictures, styles and links; the guard
+    // keeps its scripts in.
     settings->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
     settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
     settings->setAttribute(QWebEngineSettings::DnsPrefetchEnabled, false);
@@ -66,9 +71,10 @@ PreviewPage::PreviewPage(QWebEngineProfile* profile, AccessRule* rule, QObject* 
     connect(this, &QWebEnginePage::loadStarted, this, [this] { m_messages.Forget(); });
     connect(this, &QWebEnginePage::loadFinished, this, [this] { m_goingTo = url(); });
     connect(this, &QWebEnginePage::newWindowRequested, this, &PreviewPage::NewWindowRequested);
-    connect(this, &QWebEnginePage::featurePermissionRequested, this, [this](const QUrl& origin, Feature feature) {
-        setFeaturePermission(origin, feature, PermissionDeniedByUser);
-    });
+    connect(this, &QWebEnginePage::featurePermissionRequested, this,
+            [this](const QUrl& origin, Feature feature) {
+                setFeaturePermission(origin, feature, PermissionDeniedByUser);
+            });
 }
 
 QUrl PreviewPage::ShownAddress() const {
@@ -78,7 +84,7 @@ QUrl PreviewPage::ShownAddress() const {
 
 QWidget* PreviewPage::Window() const { return QApplication::activeWindow(); }
 
-// --- where the page may go -----------------------------------------------------------------------------------------
+// --- where the page may go ------------------------------------------------------------------------
 
 bool PreviewPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
     if (url.scheme() == u"mailto") {
@@ -99,7 +105,8 @@ bool PreviewPage::AcceptMainPage(const QUrl& url, NavigationType type) {
         return false;
     }
     m_goingTo = url;
-    if (type != NavigationTypeLinkClicked || !BrowserAddress::IsNetwork(url) || BrowserAddress::IsNetwork(from)) {
+    if (type != NavigationTypeLinkClicked || !BrowserAddress::IsNetwork(url) ||
+        BrowserAddress::IsNetwork(from)) {
         return true;
     }
     // the engine lets no local page go to the network; where the rule does, the view goes by itself
@@ -110,12 +117,11 @@ bool PreviewPage::AcceptMainPage(const QUrl& url, NavigationType type) {
 void PreviewPage::ShowRefused(const QUrl& url) {
     const QPalette palette = QApplication::palette();
     const QUrl notice =
-        NoticePage::Refused(url, {palette.color(QPalette::Base).name(), palette.color(QPalette::Text).name(),
-                                  palette.color(QPalette::Link).name()});
+        NoticePage::Refused(url, palette.color(QPalette::Base).name(), palette.color(QPalette::Text).name());
     QTimer::singleShot(0, this, [this, notice] { load(notice); });
 }
 
-// --- what is handed on ---------------------------------------------------------------------------------------------
+// --- what is handed on ----------------------------------------------------------------------------
 
 void PreviewPage::NewWindowRequested(QWebEngineNewWindowRequest& request) {
     const QUrl url = request.requestedUrl();
@@ -143,10 +149,11 @@ void PreviewPage::AskToOpenOutside(const QUrl& url) {
     m_asking = true;
     QTimer::singleShot(0, this, [this, url] {
         const QPointer<PreviewPage> self = this;
-        const QString question = url.scheme() == u"mailto"
-                                     ? u"Möchten Sie eine E-Mail an diese Adresse schreiben?"_s
-                                     : u"Die Vorschau zeigt das nicht selbst. Soll es in Ihrem Browser geöffnet "
-                                       "werden?"_s;
+        const QString question =
+            url.scheme() == u"mailto"
+                ? u"Möchten Sie eine E-Mail an diese Adresse schreiben?"_s
+                : u"Die Vorschau zeigt das nicht selbst. Soll es in Ihrem Browser geöffnet "
+                  "werden?"_s;
         const QString shown = url.scheme() == u"mailto" ? url.path() : BrowserAddress::Shown(url);
         const auto answer = Dialogs::MsgBox({u"HTML Vorschau"_s, question + u"\r\n\r\n"_s + shown,
                                              Dialogs::Icon::Question, Dialogs::Buttons::YesNo});
@@ -155,18 +162,20 @@ void PreviewPage::AskToOpenOutside(const QUrl& url) {
     });
 }
 
-// --- scripts -------------------------------------------------------------------------------------------------------
+// --- scripts --------------------------------------------------------------------------------------
 
 void PreviewPage::javaScriptAlert(const QUrl&, const QString& text) { m_messages.Alert(Window(), text); }
 
 bool PreviewPage::javaScriptConfirm(const QUrl&, const QString& text) {
     // the view's own question before a page is left comes in English
-    const bool leaving = text == QCoreApplication::translate("QWebEnginePage",
-                                                             "Are you sure you want to leave this page? Changes that "
-                                                             "you made may not be saved.");
+    const bool leaving =
+        text == QCoreApplication::translate("QWebEnginePage",
+                                            "Are you sure you want to leave this page? Changes that "
+                                            "you made may not be saved.");
     return m_messages.Confirm(
-        Window(), leaving ? u"Möchten Sie diese Seite verlassen? Was Sie dort eingegeben haben, geht verloren."_s
-                          : text);
+        Window(), leaving
+                      ? u"Möchten Sie diese Seite verlassen? Was Sie dort eingegeben haben, geht verloren."_s
+                      : text);
 }
 
 bool PreviewPage::javaScriptPrompt(const QUrl&, const QString& text, const QString& preset, QString* result) {

@@ -45,7 +45,8 @@ protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
     void javaScriptAlert(const QUrl& origin, const QString& text) override;
     bool javaScriptConfirm(const QUrl& origin, const QString& text) override;
-    bool javaScriptPrompt(const QUrl& origin, const QString& text, const QString& preset, QString* result) override;
+    bool javaScriptPrompt(const QUrl& origin, const QString& text, const QString& preset,
+                          QString* result) override;
     void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel level, const QString& text, int line,
                                   const QString& source) override;
 
@@ -53,7 +54,8 @@ private:
     bool AcceptMainPage(const QUrl& url, NavigationType type);
     void ShowRefused(const QUrl& url);
     void NewWindowRequested(QWebEngineNewWindowRequest& request);
-    // Asks the user, as soon as the view has returned to the event loop, and opens the address in his browser.
+    // Asks the user, as soon as the view has returned to the event loop, and opens the address in his
+    // browser.
     void AskToOpenOutside(const QUrl& url);
     QWidget* Window() const;
 

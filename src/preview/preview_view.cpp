@@ -17,7 +17,8 @@ void PreviewView::contextMenuEvent(QContextMenuEvent* event) {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const auto add = [&](QWebEnginePage::WebAction action, const QString& text, QStringView icon = {}) {
         const QAction* known = pageAction(action);
-        QAction* item = menu->addAction(Icons::Named(icon), text, this, [this, action] { triggerPageAction(action); });
+        QAction* item =
+            menu->addAction(Icons::Named(icon), text, this, [this, action] { triggerPageAction(action); });
         item->setEnabled(known->isEnabled());
     };
     if (request && request->isContentEditable()) {

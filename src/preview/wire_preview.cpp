@@ -26,6 +26,7 @@ void PrepareForRoot() {
 }
 
 void Browse(const QString& path) {
+    Shared<Frm_Browser>().SetBrowsingAlone(false);
     Shared<Frm_Browser>().BringToFront();
     Shared<Frm_Browser>().Navigate(path);
     Events::DoEvents();
@@ -50,7 +51,7 @@ void WirePreview() {
 
 void StartBrowsing() {
     Neighbours::UnloadWindow(u"Frm_Welcome"_s);
-    Shared<Frm_Browser>().BrowseAlone();
+    Shared<Frm_Browser>().SetBrowsingAlone(true);
     Shared<Frm_Browser>().BringToFront();
     Shared<Frm_Navigation>().Present();
 }

@@ -81,7 +81,7 @@ private:
     void Later(void (Frm_ProjectManager::*routine)());
     bool AskToSave(const QString& question);
     void Push();
-    void OpenFromList(const QString& path);
+    void OpenFromList(QString path); // a copy: the scan clears the selected row
     void Lvw_Files_DblClick();
     void Lvw_ExtendedFiles_DblClick();
     void Back_Click();

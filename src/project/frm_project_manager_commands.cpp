@@ -62,7 +62,7 @@ void Frm_ProjectManager::Push() {
     ActivateButtons();
 }
 
-void Frm_ProjectManager::OpenFromList(const QString& path) {
+void Frm_ProjectManager::OpenFromList(QString path) {
     if (!AskToSave(SaveQuestion)) return;
     Push();
     Documents::OpenFile(path);
@@ -97,7 +97,7 @@ void Frm_ProjectManager::Back_Click() {
 
 void Frm_ProjectManager::Open_Click() {
     if (SelectedTag == u"Extern") return Dialogs::OpenAddress(SelectedText);
-    if (SelectedTag != Global::CurrentFile) OpenFromList(QString(SelectedTag));
+    if (SelectedTag != Global::CurrentFile) OpenFromList(SelectedTag);
 }
 
 void Frm_ProjectManager::Delete_Click() {

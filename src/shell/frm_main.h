@@ -82,6 +82,8 @@ QString CheckInstallation();
 // The file that a whole command line names: without double quotes at both ends, full, in the program's form.
 // Empty for an empty line.
 QString FileArgument(const QString& commandLine);
+// Makes the system's clipboard the program's.
+void ConnectClipboard();
 // Ends the program at once, without the exit sequence.
 void End();
 

@@ -51,12 +51,12 @@ void SpeakGerman(QApplication& application) {
     }
 }
 
+} // namespace
+
 void ConnectClipboard() {
     Clipboard::Install({[](const QString& text) { QGuiApplication::clipboard()->setText(text); },
                         [] { return QGuiApplication::clipboard()->text(); }});
 }
-
-} // namespace
 
 QString CheckInstallation() {
     for (int n = 1; n <= 9; ++n) {
@@ -73,10 +73,14 @@ QString FileArgument(const QString& commandLine) {
     return argument.isEmpty() ? QString() : Files::MakeFull(argument);
 }
 
+static bool& Ended() {
+    static bool ended = false;
+    return ended;
+}
+
 void End() {
+    Ended() = true; // a start that ends before the event loop runs must not enter it
     QCoreApplication::exit(0);
-    // a start that ends before the event loop runs ends here, too
-    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
 }
 
 int Main(int argc, char** argv) {
@@ -109,7 +113,7 @@ int Main(int argc, char** argv) {
     int code = 0;
     try {
         Shared<Frm_Main>();
-        code = QApplication::exec();
+        if (!Ended()) code = QApplication::exec();
     } catch (const StartEnded&) {
         code = 0; // a list file is missing: the message has been read
     }

@@ -113,8 +113,9 @@ private slots:
         Global::AutoDebug = true;
         int pages = 0;
         int followed = 0;
-        QDirIterator files(m_folder->System(u"verein"_s), {u"*.htm"_s, u"*.html"_s, u"*.css"_s, u"*.js"_s, u"*.vbs"_s},
-                           QDir::Files, QDirIterator::Subdirectories);
+        QDirIterator files(m_folder->System(u"verein"_s),
+                           {u"*.htm"_s, u"*.html"_s, u"*.css"_s, u"*.js"_s, u"*.vbs"_s}, QDir::Files,
+                           QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QString file = files.next();
             OpenSample(QDir(m_folder->System(u"verein"_s)).relativeFilePath(file));
@@ -193,6 +194,7 @@ private slots:
         QVERIFY(!Loaded<Frm_DeBug>());
         Driver::Trigger(u"ToolBar_Debug"_s);
         QVERIFY(fits(150));
+        Global::DocChanged = false;
         Driver::Trigger(u"Menu_File_Close"_s);
         QVERIFY(!Global::DebuggerOpen);
     }
@@ -205,12 +207,12 @@ private slots:
             Shared<Frm_DeBug>().CheckSyntax();
         });
         Neighbours::FocusCode();
-        Driver::TypeCode(u"<q>"_s);
+        Driver::TypeCode(u"<qq>"_s);
         QCOMPARE(runs, 0);
         Driver::PressCode(Qt::Key_Left);
         Driver::PressCode(Qt::Key_Left);
         QCOMPARE(runs, 1);
-        QCOMPARE(Texts().value(1), u"unbekannter Tag: <q>"_s);
+        QCOMPARE(Texts().value(1), u"unbekannter Tag: <qq>"_s);
         Driver::TypeCode(u"\n"_s); // Enter looks before it acts, so its own change is new
         QCOMPARE(runs, 1);
         QTest::mouseClick(Box().viewport(), Qt::LeftButton);
@@ -224,13 +226,13 @@ private slots:
     }
 
     void aClickMeetsTheTextAsItIs() {
-        Open(u"<p><q></q></p>"_s);
+        Open(u"<p><qq></qq></p>"_s);
         Neighbours::FocusCode();
         QCoreApplication::processEvents();
         Box().SetSelStart(0);
         Driver::TypeCode(u"eins zwei "_s);
         ClickRow(1);
-        QCOMPARE(Box().SelText(), u"q"_s);
+        QCOMPARE(Box().SelText(), u"qq"_s);
         QCOMPARE(Box().SelStart(), 14);
         // a report that has got shorter under the mouse
         Box().SetText(u"x"_s);
@@ -238,9 +240,10 @@ private slots:
         QCOMPARE(Texts().last(), u"Im gesamten Dokument wurden keine Fehler gefunden."_s);
         QVERIFY(Shared<Frm_Code>().IsActiveChild());
         QTest::mouseDClick(List()->viewport(), Qt::LeftButton, {}, List()->RowRect(0).center());
+        QTest::mouseRelease(List()->viewport(), Qt::LeftButton, {}, List()->RowRect(0).center());
         QVERIFY(Shared<Frm_Code>().IsActiveChild());
         // positions of a report that no click has renewed
-        Box().SetText(u"<p>123456<q>"_s);
+        Box().SetText(u"<p>123456<qq>"_s);
         Neighbours::CheckSyntax();
         Box().SetText(u"<p>1"_s);
         emit List()->RowChosen(1);
@@ -250,15 +253,16 @@ private slots:
 
     void obeysMenuAndSettings() {
         Commands::SetChecked(u"Menu_Debug_JavaScript"_s, true);
-        Open(u"<q style=\"a:1\">"_s);
+        Open(u"<qq style=\"a:1\">"_s);
         QVERIFY(!Commands::IsChecked(u"Menu_Debug_JavaScript"_s));
         QCOMPARE(Frame()->windowTitle(), u"Debugger 3.2 - 3 Fehler"_s);
         Driver::Trigger(u"Menu_Debug_HTML"_s);
         QCOMPARE(Frame()->windowTitle(), u"Debugger 3.2 - 3 Fehler"_s); // the next run reads it
         Driver::Trigger(u"Menu_Debug_Start"_s);
-        QCOMPARE(Texts(), QStringList({u"CSS-Code wurde geprüft."_s,
-                                       u"Es wurde keine Einheit für den Wert '1' eingegeben."_s,
-                                       u"Im gesamten Dokument wurde(n) 1 Fehler gefunden."_s, u"CSS Warnungen: 1"_s}));
+        QCOMPARE(Texts(),
+                 QStringList({u"CSS-Code wurde geprüft."_s,
+                              u"Es wurde keine Einheit für den Wert '1' eingegeben."_s,
+                              u"Im gesamten Dokument wurde(n) 1 Fehler gefunden."_s, u"CSS Warnungen: 1"_s}));
         QCOMPARE(Icon(1), u"Alert"_s);
         Driver::Trigger(u"Menu_Debug_CSS"_s);
         Driver::Trigger(u"Menu_Debug_Start"_s);
@@ -269,7 +273,7 @@ private slots:
         Global::DebugAccuracy = 70;
         Driver::Trigger(u"Menu_Debug_Start"_s);
         QCOMPARE(Texts(),
-                 QStringList({u"Die Debuggenauigkeit steht nicht auf 100%."_s, u"unbekannter Tag: <q>"_s}));
+                 QStringList({u"Die Debuggenauigkeit steht nicht auf 100%."_s, u"unbekannter Tag: <qq>"_s}));
         Box().SetSelStart(2);
         ClickRow(0);
         QCOMPARE(Box().SelStart(), 2);
@@ -322,33 +326,34 @@ private slots:
             QCOMPARE(list->columnViewportPosition(0), 0);
             QVERIFY(list->columnViewportPosition(2) > list->viewport()->width());
         }
-        const auto tipOf = [&](int row) {
-            QToolTip::hideText();
+        const auto hover = [&](int row) {
             const QPoint place = list->RowRect(row).center();
             QHelpEvent event(QEvent::ToolTip, place, list->viewport()->mapToGlobal(place));
             QCoreApplication::sendEvent(list->viewport(), &event);
-            return QToolTip::isVisible() ? QToolTip::text() : QString();
         };
-        QVERIFY(tipOf(2).startsWith(u"<p>unbekannter Tag: &lt;xxx"));
-        QCOMPARE(tipOf(1), QString());
+        hover(2);
+        QVERIFY(QToolTip::text().startsWith(u"<p>unbekannter Tag: &lt;xxx"));
+        hover(1); // fits, so the tip goes
+        QTRY_VERIFY(!QToolTip::isVisible());
         Box().SetText(u"<"_s + QString(150, u'y') + u">"_s);
         Neighbours::CheckSyntax();
-        QCOMPARE(tipOf(1).count(u'y'), 150);
+        hover(1);
+        QCOMPARE(QToolTip::text().count(u'y'), 150);
     }
 
     void holdsManyRows() {
-        Open(u"<q>"_s.repeated(100'000));
+        Open(u"<qq>\r\n"_s.repeated(100'000));
         QVERIFY(Rows() > 200'000);
         QTest::keyClick(List(), Qt::Key_End);
-        for (int i = 0; i < 4; ++i) QTest::keyClick(List(), Qt::Key_Up);
+        for (int i = 0; i < 3; ++i) QTest::keyClick(List(), Qt::Key_Up);
         QCOMPARE(Cell(List()->currentIndex().row()).trimmed(), u"Es wurden keine Fehler gefunden."_s);
         QTest::keyClick(List(), Qt::Key_Up);
         QTest::keyClick(List(), Qt::Key_Up);
         QTest::keyClick(List(), Qt::Key_Return);
-        QCOMPARE(Box().SelStart(), 299'998);
-        QCOMPARE(Box().SelText(), u"q"_s);
+        QCOMPARE(Box().SelStart(), 599'995);
+        QCOMPARE(Box().SelText(), u"qq"_s);
         // another document is shown from its start
-        Box().SetText(u"<q>"_s.repeated(50));
+        Box().SetText(u"<qq>\r\n"_s.repeated(50));
         const int scroll = List()->verticalScrollBar()->maximum();
         QVERIFY(scroll > 0);
         const QString other = m_folder->Write(u"andere.htm"_s, "<p><z></p>\r\n");

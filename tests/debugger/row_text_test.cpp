@@ -76,7 +76,9 @@ private slots:
         model.Replace(rows);
         model.Replace(rows);
         QCOMPARE(resets.count(), 1);
-        const auto at = [&](int row, int column, int role) { return model.index(row, column).data(role).toString(); };
+        const auto at = [&](int row, int column, int role) {
+            return model.index(row, column).data(role).toString();
+        };
         QCOMPARE(at(1, 0, Qt::DisplayRole), u"     Tag\r\n<q>"_s);
         QCOMPARE(at(1, 0, ReportModel::IconRole), u"Error3"_s);
         QCOMPARE(at(2, 0, ReportModel::IconRole), QString());

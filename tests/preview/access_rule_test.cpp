@@ -65,8 +65,8 @@ private slots:
 
         rule.Wish(web);
         QVERIFY(rule.AllowsPage(web, page) && rule.AllowsFetch(web));
-        QVERIFY(rule.AllowsPart(other, AccessRule::Part::Other, web));   // a picture of the page he wished for
-        QVERIFY(!rule.AllowsPart(web, AccessRule::Part::Other, page));   // but none of the local page
+        QVERIFY(rule.AllowsPart(other, AccessRule::Part::Other, web)); // a picture of the page he wished for
+        QVERIFY(!rule.AllowsPart(web, AccessRule::Part::Other, page)); // but none of the local page
         QVERIFY(!rule.AllowsPage(other, page) && !rule.AllowsFetch(other));
         QVERIFY(rule.AllowsPage(other, web)); // he followed a link there
         QVERIFY(rule.AllowsFetch(other));
@@ -97,7 +97,7 @@ private slots:
 
     void keepsTheRefusedAddressInItsNotice() {
         const QUrl address(u"http://verein.example/?a=1;2&b=<ä>\"#c"_s);
-        const QUrl notice = NoticePage::Refused(address, {u"#fff"_s, u"#000"_s, u"#00f"_s});
+        const QUrl notice = NoticePage::Refused(address, u"#fff"_s, u"#000"_s);
         QCOMPARE(NoticePage::RefusedAddress(notice), address);
         QVERIFY(!NoticePage::RefusedAddress(QUrl(u"data:text/html,x"_s)).isValid());
         QVERIFY(!NoticePage::RefusedAddress(address).isValid());

@@ -16,8 +16,8 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QMdiSubWindow>
+#include <QMessageBox>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QWebEngineView>
@@ -129,13 +129,20 @@ private slots:
 
     void refusesTheNetworkUntilTheUserAsksForIt() {
         WebServer server;
-        Preview("<title>Eins</title><img src='" + server.Address().toLatin1() + "'><a id=l href='" +
-                server.Address().toLatin1() + "'>x</a><iframe src='" + server.Address().toLatin1() + "'></iframe>");
+        const QString page =
+            u"<title>Eins</title><link rel=preconnect href='%1'><link rel=stylesheet href='%1'><link "
+            u"rel=icon href='%1'>"
+            "<link rel=prefetch href='%1'><img src='%1'><iframe src='%1'></iframe><a id=l href='%1'>x</a>"
+            "<script src='%1'></script><script>fetch('%1'); navigator.sendBeacon('%1', 'x'); new "
+            "EventSource('%1');"
+            "new WebSocket('%1'.replace('http', 'ws'));</script>"_s;
+        Preview(page.arg(server.Address()).toLatin1());
         QVERIFY(WaitForTitle(u"Eins"_s));
         Driver::Trigger(u"Menu_View_Navigation"_s);
         Evaluate(u"document.getElementById('l').click()"_s);
         QVERIFY(WaitForTitle(u"Nicht geladen"_s));
-        QTRY_COMPARE_WITH_TIMEOUT(Driver::Find<QComboBox>(u"Cmb_Url"_s)->currentText(), server.Address(), Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(Driver::Find<QComboBox>(u"Cmb_Url"_s)->currentText(), server.Address(),
+                                  Patience);
         m_dialogs->ExpectAddress(server.Address());
         Evaluate(u"document.getElementById('open').click()"_s);
         QTRY_VERIFY_WITH_TIMEOUT(m_dialogs->Finished(), Patience);
@@ -171,30 +178,37 @@ private slots:
     void keepsScriptsInTheirPage() {
         m_folder->Write(u"geheim.txt"_s, "geheim");
         m_folder->Write(u"wert.js"_s, "var wert = 7;");
-        Preview("<title>Leer</title><script src=wert.js></script><iframe id=f src=geheim.txt></iframe><script>"
-                "var x = new XMLHttpRequest; var r = 'nichts';"
-                "try { x.open('GET', 'geheim.txt', false); x.send(); r = x.responseText; } catch (e) {}"
-                "onload = function () { var t = ''; try { t = document.getElementById('f').contentDocument.body"
-                ".innerText; } catch (e) {} document.title = wert + r + t.indexOf('geheim'); };</script>");
+        Preview(
+            "<title>Leer</title><script src=wert.js></script><iframe id=f src=geheim.txt></iframe><script>"
+            "var x = new XMLHttpRequest; var r = 'nichts';"
+            "try { x.open('GET', 'geheim.txt', false); x.send(); r = x.responseText; } catch (e) {}"
+            "onload = function () { var t = ''; try { t = document.getElementById('f').contentDocument.body"
+            ".innerText; } catch (e) {} document.title = wert + r + t.indexOf('geheim'); };</script>");
         QVERIFY2(WaitForTitle(u"7nichts-1"_s), qPrintable(Caption()));
         QCOMPARE(Evaluate(u"typeof RTCPeerConnection"_s), u"undefined"_s);
+        QVERIFY(Page()->profile()->isOffTheRecord());
     }
 
     void handsNewWindowsToTheUsersBrowser() {
         m_folder->Write(u"archiv.zip"_s, "PK");
-        Preview("<title>Eins</title><body style='margin:0'><a style='display:block;height:99px' target=_blank "
-                "href='zwei.htm'>x</a><a style='display:block;height:99px' href='archiv.zip'>z</a>"
-                "<script>onload = function () { window.open('drei.htm'); }</script>");
+        Preview(
+            "<title>Eins</title><body style='margin:0'><a style='display:block;height:99px' target=_blank "
+            "href='zwei.htm'>x</a><a style='display:block;height:99px' href='archiv.zip'>z</a>"
+            "<script>onload = function () { window.open('drei.htm'); }</script>");
         QVERIFY(WaitForTitle(u"Eins"_s));
         auto* view = Driver::Find<QWebEngineView>(u"Browser"_s);
         QTRY_VERIFY_WITH_TIMEOUT(view->focusProxy(), Patience);
         Evaluate(u"1"_s); // the page stands
-        const QString question = u"Die Vorschau zeigt das nicht selbst. Soll es in Ihrem Browser geöffnet werden?\r\n\r\n"_s;
-        m_dialogs->ExpectMessage(u"HTML Vorschau"_s, question + m_folder->System(u"zwei.htm"_s), Dialogs::Answer::Yes);
-        m_dialogs->ExpectAddress(QString::fromLatin1(QUrl::fromLocalFile(m_folder->System(u"zwei.htm"_s)).toEncoded()));
+        const QString question =
+            u"Die Vorschau zeigt das nicht selbst. Soll es in Ihrem Browser geöffnet werden?\r\n\r\n"_s;
+        m_dialogs->ExpectMessage(u"HTML Vorschau"_s, question + m_folder->System(u"zwei.htm"_s),
+                                 Dialogs::Answer::Yes);
+        m_dialogs->ExpectAddress(
+            QString::fromLatin1(QUrl::fromLocalFile(m_folder->System(u"zwei.htm"_s)).toEncoded()));
         QTest::mouseClick(view->focusProxy(), Qt::LeftButton, {}, {30, 30});
         QTRY_VERIFY_WITH_TIMEOUT(m_dialogs->Finished(), Patience);
-        m_dialogs->ExpectMessage(u"HTML Vorschau"_s, question + m_folder->System(u"archiv.zip"_s), Dialogs::Answer::No);
+        m_dialogs->ExpectMessage(u"HTML Vorschau"_s, question + m_folder->System(u"archiv.zip"_s),
+                                 Dialogs::Answer::No);
         QTest::mouseClick(view->focusProxy(), Qt::LeftButton, {}, {30, 130});
         QTRY_VERIFY_WITH_TIMEOUT(m_dialogs->Finished(), Patience);
         QCOMPARE(Caption(), u"HTML Vorschau - Eins"_s);
@@ -278,7 +292,7 @@ private slots:
         QCOMPARE(url->currentText(), u"aba"_s);
         QCOMPARE(url->count(), 3); // one for each key
         url->setEditText(u"ab"_s);
-        QCOMPARE(url->count(), 4); // whether it is there already or not
+        QCOMPARE(url->count(), 4);                      // whether it is there already or not
         Driver::Click(u"Tlb_Navigation_Back_Button"_s); // without a preview nothing happens
         Shared<Frm_Navigation>().move(200, 220);
         Shared<Frm_Navigation>().close();

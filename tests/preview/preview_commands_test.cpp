@@ -88,7 +88,8 @@ private slots:
         ScriptedDialogs dialogs;
         Open({}, u"a"_s);
         Global::CurrentFile.clear();
-        for (const auto command : {Menu_View_Browser_Once, Menu_View_Browser_Project, Menu_View_Browser_WAP}) {
+        for (const auto command :
+             {Menu_View_Browser_Once, Menu_View_Browser_Project, Menu_View_Browser_WAP}) {
             dialogs.ExpectSaveFile(u"Speichern unter"_s, QString());
             command();
         }
@@ -101,7 +102,9 @@ private slots:
         QTest::addColumn<QString>("copy");
         QTest::addColumn<QByteArray>("bytes");
         const auto row = [](const char* title, const QString& name, const QString& text, const QString& copy,
-                            const QByteArray& bytes) { QTest::newRow(title) << name << text << copy << bytes; };
+                            const QByteArray& bytes) {
+            QTest::newRow(title) << name << text << copy << bytes;
+        };
         row("unnamed", QString(), u"<p>ä"_s, u"temp.htm"_s, "<p>\xE4\r\n");
         row("extension cut", u"x.html"_s, u"a\r\n"_s, u"temp.htm"_s, "a\r\n");
         row("style sheet", u"x.css"_s, u"a{}"_s, u"temp.css"_s, "a{}\r\n");
@@ -143,7 +146,8 @@ private slots:
         ScriptedDialogs dialogs;
         Open(u"x.htm"_s, u"a"_s);
         Files::SetProgramDirectory(u"\\no\\such\\folder"_s);
-        dialogs.ExpectMessage(u"Fehler"_s, u"Die Datei für die Temporärvorschau konnte nicht geschrieben werden."_s);
+        dialogs.ExpectMessage(u"Fehler"_s,
+                              u"Die Datei für die Temporärvorschau konnte nicht geschrieben werden."_s);
         Menu_View_Browser_Temp();
         QCOMPARE(m_calls, QStringList());
     }

@@ -2,6 +2,7 @@
 #include "support/driver.h"
 
 #include "documents/frm_code.h"
+#include "platform/clipboard.h"
 #include "platform/literals.h"
 #include "platform/window.h"
 #include "shell/commands.h"
@@ -17,7 +18,9 @@
 namespace Driver {
 
 QWidget* FindControl(const QString& name) {
-    for (QWidget* top : QApplication::topLevelWidgets()) {
+    QWidgetList windows = QApplication::topLevelWidgets();
+    if (QWidget* modal = QApplication::activeModalWidget()) windows.prepend(modal); // it alone takes input
+    for (QWidget* top : windows) {
         if (top->objectName() == name) return top;
         if (auto* control = top->findChild<QWidget*>(name)) return control;
     }
@@ -82,11 +85,15 @@ void InModal(const QString& dialog, std::function<void(QWidget*)> inside) {
 
 RunningProgram::RunningProgram() {
     Wiring::WireWindows();
+    Program::ConnectClipboard();
     Shared<Frm_Main>();
     Global::StartPending = false; // neither a start dialog nor a file of the command line
     QCoreApplication::processEvents();
 }
 
-RunningProgram::~RunningProgram() { Wiring::UnloadAll(); }
+RunningProgram::~RunningProgram() {
+    Wiring::UnloadAll();
+    Clipboard::Install({});
+}
 
 } // namespace Driver
