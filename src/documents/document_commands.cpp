@@ -111,6 +111,7 @@ bool OpenText(const QString& path, bool preview) {
             "geöffnet."_s);
     Neighbours::ActivateToolBar(); // once more, now that the type is known: a script before must leave no trace
     RefreshWindows();
+    if (!preview) Neighbours::FocusCode(); // the user types on in the page, not in a window that has just come up
     return true;
 }
 

@@ -15,9 +15,9 @@ namespace {
 
 QIcon IconFor(const QString& key) {
     static const QHash<QString, QStringView> drawings{
-        {u"HTMLFile"_s, u"page"},      {u"WMLFile"_s, u"browser_wap"},   {u"CSS"_s, u"style_sheet"},
-        {u"VBS"_s, u"script"},         {u"JS"_s, u"script_file"},        {u"Image"_s, u"picture"},
-        {u"UserDef2"_s, u"file"},      {u"Extern2"_s, u"external_link"}, {u"Error3"_s, u"file_missing"},
+        {u"HTMLFile"_s, u"page"}, {u"WMLFile"_s, u"browser_wap"},   {u"CSS"_s, u"style_sheet"},
+        {u"VBS"_s, u"script"},    {u"JS"_s, u"script_file"},        {u"Image"_s, u"picture"},
+        {u"UserDef2"_s, u"file"}, {u"Extern2"_s, u"external_link"}, {u"Error3"_s, u"file_missing"},
     };
     return Icons::Named(drawings.value(key));
 }
@@ -27,8 +27,8 @@ QIcon IconFor(const QString& key) {
 FileListRow FileListRow::From(const LinkRow& row) {
     const bool external = row.tag == u"Extern";
     const auto shown = [external](const QString& path) { return external ? path : Files::ToSystem(path); };
-    return {{row.name, row.title.simplified(), shown(row.folder), Files::ToSystem(row.linkedFrom), row.linkName,
-             row.sortKey},
+    return {{row.name, row.title.simplified(), shown(row.folder), Files::ToSystem(row.linkedFrom),
+             row.linkName, row.sortKey},
             shown(row.path),
             row.tag,
             row.linkedFrom,
@@ -89,13 +89,15 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= rowCount()) return {};
     const FileListRow& row = Row(index.row());
     switch (role) {
-    case Qt::DisplayRole: return row.cells.value(index.column());
+    case Qt::DisplayRole:
+        return row.cells.value(index.column());
     case Qt::ToolTipRole: // a link may look like markup
         return Qt::mightBeRichText(row.tip) ? QString(u"<qt>"_s + row.tip.toHtmlEscaped()) : row.tip;
     case Qt::DecorationRole:
         if (index.column() == 0 && !row.icon.isEmpty()) return IconFor(row.icon);
         return {};
-    default: return {};
+    default:
+        return {};
     }
 }
 

@@ -23,8 +23,8 @@ struct FileListRow {
     static FileListRow From(const ExtendedFileRow& row);
 };
 
-// The rows of a list, always in the order of their sort keys and within a key in that of their coming. Takes many
-// rows at once, so that a view stays quick while thousands come in.
+// The rows of a list, always in the order of their sort keys and within a key in that of their coming. Takes
+// many rows at once, so that a view stays quick while thousands come in.
 class FileListModel : public QAbstractTableModel {
     Q_OBJECT
 

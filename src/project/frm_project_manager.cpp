@@ -32,9 +32,8 @@ constexpr qint64 RowsEvery = 100;
 
 Frm_ProjectManager::Frm_ProjectManager()
     : Tlb_Navigation(new QToolBar(this)),
-      m_files(new FileListModel({u"Datei"_s, u"Titel"_s, u"Verzeichnis"_s, u"Verlinkt von"_s, u"Linkname"_s,
-                                 u"Dateityp"_s},
-                                this)),
+      m_files(new FileListModel(
+          {u"Datei"_s, u"Titel"_s, u"Verzeichnis"_s, u"Verlinkt von"_s, u"Linkname"_s, u"Dateityp"_s}, this)),
       m_extendedFiles(new FileListModel({u"Datei"_s, u"Verzeichnis"_s, u"Dateityp"_s}, this)) {
     setObjectName(u"Frm_ProjectManager"_s);
     BuildToolBar();
@@ -58,9 +57,12 @@ void Frm_ProjectManager::OnLoad() {
     if (Global::AssistantOpen) {
         Neighbours::RunAnimation(
             1, u"In diesem Fenster werden alle HTML-Dateien angezeigt, die von dieser Seite erreichbar sind. "
-               "Doppelklicken Sie auf eine Datei, um sie zu öffnen. Sie können auch Dateien löschen oder sich mit "
-               "der Schaltflache 'Gehe zu' den Link anzeigen lassen. Um diese Funktion voll auszunutzen, laden Sie "
-               "die Index-Datei des Projektes. Sollte der ProjektManager keine Dateien mehr finden, obwohl in der "
+               "Doppelklicken Sie auf eine Datei, um sie zu öffnen. Sie können auch Dateien löschen oder "
+               "sich mit "
+               "der Schaltflache 'Gehe zu' den Link anzeigen lassen. Um diese Funktion voll auszunutzen, "
+               "laden Sie "
+               "die Index-Datei des Projektes. Sollte der ProjektManager keine Dateien mehr finden, obwohl "
+               "in der "
                "Titelleiste steht, das er aktualisiert wird, schließen sie die Vorschau."_s);
     }
     ActivateButtons();
@@ -86,7 +88,8 @@ void Frm_ProjectManager::Refresh() {
     Lvw_ExtendedFiles->viewport()->update();
 }
 
-// --- the scan ------------------------------------------------------------------------------------------------
+// --- the scan
+// ------------------------------------------------------------------------------------------------
 
 void Frm_ProjectManager::SearchLinks() {
     if (!m_open) return;
@@ -109,7 +112,9 @@ void Frm_ProjectManager::SearchLinks() {
     const bool seen = isVisible();
     LinkScanner::Listener listener;
     listener.addRow = [self](const LinkRow& row) { self->AddFoundRow(row); };
-    listener.goOn = [self, scan, seen] { return self && self->IsScanning(scan) && (!seen || self->isVisible()); };
+    listener.goOn = [self, scan, seen] {
+        return self && self->IsScanning(scan) && (!seen || self->isVisible());
+    };
     listener.letEventsRun = [self](const LinkScanner::Counts&) { self->LetEventsRun(); };
     m_scanner.Scan(Global::CurrentFile, LinkScanner::Settings::Current(), listener);
     if (!self || !IsScanning(scan)) return;
@@ -139,7 +144,8 @@ void Frm_ProjectManager::LetEventsRun() {
     if (self) m_sinceEvents.start();
 }
 
-// --- the files added by hand -----------------------------------------------------------------------------------
+// --- the files added by hand
+// -----------------------------------------------------------------------------------
 
 QString Frm_ProjectManager::ReturnIndexFile() const {
     return m_history.First().isEmpty() ? Global::CurrentFile : m_history.First();
@@ -182,7 +188,8 @@ void Frm_ProjectManager::FillExtendedFileList() {
     m_extendedFiles->Add(std::move(rows));
 }
 
-// --- the selected row --------------------------------------------------------------------------------------------
+// --- the selected row
+// --------------------------------------------------------------------------------------------
 
 void Frm_ProjectManager::Select(List list, int row) {
     const FileListRow& chosen = (list == List::Files ? m_files : m_extendedFiles)->Row(row);

@@ -15,8 +15,8 @@ class QAction;
 class QToolBar;
 class QTreeView;
 
-// The files that the open page reaches, and those that the user has added to the project by hand. Docked at the
-// main window's left edge.
+// The files that the open page reaches, and those that the user has added to the project by hand. Docked at
+// the main window's left edge.
 class Frm_ProjectManager : public MdiChild {
     Q_OBJECT
 
@@ -26,8 +26,8 @@ public:
     void OnLoad() override;
     void OnUnload() override;
 
-    // Scans anew from the current document and lists what it reaches. Lets events run meanwhile: the window may
-    // be gone behind it.
+    // Scans anew from the current document and lists what it reaches. Lets events run meanwhile: the window
+    // may be gone behind it.
     void SearchLinks();
     // Forgets the pages gone through, so that the next page opened begins a project of its own.
     void DeleteFileIndex();
@@ -56,7 +56,7 @@ private:
     void BuildToolBar();
     void BuildNewButtonMenu();
     void BuildLists();
-    QTreeView* MakeList(const QString& name, FileListModel* model, std::initializer_list<int> widths);
+    QTreeView* MakeList(const QString& name, FileListModel* model, std::initializer_list<int> characters);
     void DockFrame();
     void ShowSkin();
     void LayOut();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the project window's buttons and rows do. Opening a file scans anew and lets events run, so behind it the
-// window may be gone.
+// What the project window's buttons and rows do. Opening a file scans anew and lets events run, so behind it
+// the window may be gone.
 #include "documents/code_access.h"
 #include "documents/document_commands.h"
 #include "documents/new_documents.h"
@@ -30,7 +30,8 @@ const QString InsertFilter = QStringLiteral(
     "(*.gif;*.jpg;*.png;*.wbmp;*.htm;*.html;*.wml;*.txt;*.css;*.swf;*.js;*.vbs;*.zip)|"
     "*.gif;*.jpg;*.png;*.wbmp;*.htm;*.html;*.wml;*.txt;*.css;*.swf;*.js;*.vbs;*.zip|"
     "Bilder (*.gif;*.jpg;*.png;*.wbmp)|*.gif;*.jpg;*.png;*.wbmp|Internet-Seiten (*.htm;*.html)|*.htm;*.html|"
-    "WAP-Seiten (*.wml)|*.wml|Textdateien (*.txt)|*.txt|StyleSheets (*.css)|*.css|ShockWaveFlash (*.swf)|*.swf|"
+    "WAP-Seiten (*.wml)|*.wml|Textdateien (*.txt)|*.txt|StyleSheets (*.css)|*.css|ShockWaveFlash "
+    "(*.swf)|*.swf|"
     "Scripte (*.js;*.vbs)|*.js;*.vbs|Archive (*.zip)|*.zip|Alle Dateien (*.*)|*.*");
 
 bool IsFile(const QString& tag) { return !tag.isEmpty() && tag != u"Error" && tag != u"Extern"; }
@@ -110,7 +111,8 @@ void Frm_ProjectManager::Delete_Click() {
 
 void Frm_ProjectManager::RemoveFromProject() {
     const Answer answer = Dialogs::MsgBox(
-        {u"Entfernen"_s, u"Möchten Sie diese Datei aus dem Projekt entfernen? Sie wird dabei nicht gelöscht."_s,
+        {u"Entfernen"_s,
+         u"Möchten Sie diese Datei aus dem Projekt entfernen? Sie wird dabei nicht gelöscht."_s,
          Icon::Exclamation, Buttons::YesNo});
     if (answer != Answer::Yes) return;
     m_project.Remove(SelectedTag);
@@ -131,10 +133,11 @@ void Frm_ProjectManager::DeleteFile() {
 
 void Frm_ProjectManager::GoTo_Click() {
     if (SelectedTag == Global::CurrentFile) {
-        Dialogs::Tell(OpenTitle,
-                      u"In der Datei befindet sich kein Link zu dieser Seite, da die ausgewählte Seite die offene "
-                      "Datei ist."_s,
-                      Icon::Exclamation);
+        Dialogs::Tell(
+            OpenTitle,
+            u"In der Datei befindet sich kein Link zu dieser Seite, da die ausgewählte Seite die offene "
+            "Datei ist."_s,
+            Icon::Exclamation);
         return;
     }
     const QString link = SelectedLinkName; // opening a file scans anew and clears both
@@ -172,10 +175,11 @@ void Frm_ProjectManager::InsertFile() {
     const QString path = Dialogs::OpenFileDialog(u"Projektdatei einfügen"_s, InsertFilter);
     if (path.isEmpty()) return;
     if (!Attempt([&] { m_project.Add(path); })) {
-        Dialogs::Tell(u"ProjektManager"_s,
-                      u"Das Projekt enthält schon %1 Einträge. Weitere Dateien können nicht hinzugefügt werden."_s.arg(
-                          ProjectFile::Capacity),
-                      Icon::Exclamation);
+        Dialogs::Tell(
+            u"ProjektManager"_s,
+            u"Das Projekt enthält schon %1 Einträge. Weitere Dateien können nicht hinzugefügt werden."_s.arg(
+                ProjectFile::Capacity),
+            Icon::Exclamation);
         return;
     }
     if (!SaveExtendedFiles()) TellSaveFailure();

@@ -75,8 +75,9 @@ void Frm_ProjectManager::BuildNewButtonMenu() {
     auto* button = qobject_cast<QToolButton*>(Tlb_Navigation->widgetForAction(m_new));
     auto* menu = new QMenu(button);
     for (const auto& entry : entries) {
-        QAction* action = entry.text == u"-" ? menu->addSeparator()
-                                             : menu->addAction(Icons::Named(entry.icon), entry.text.toString());
+        QAction* action = entry.text == u"-"
+                              ? menu->addSeparator()
+                              : menu->addAction(Icons::Named(entry.icon), entry.text.toString());
         const QString key = entry.key.toString();
         action->setObjectName(QString(u"Tlb_Navigation_New_"_s + key));
         connect(action, &QAction::triggered, this, [this, key] {
@@ -89,7 +90,7 @@ void Frm_ProjectManager::BuildNewButtonMenu() {
 }
 
 QTreeView* Frm_ProjectManager::MakeList(const QString& name, FileListModel* model,
-                                        std::initializer_list<int> widths) {
+                                        std::initializer_list<int> characters) {
     auto* list = new QTreeView(this);
     list->setObjectName(name);
     list->setModel(model);
@@ -99,21 +100,23 @@ QTreeView* Frm_ProjectManager::MakeList(const QString& name, FileListModel* mode
     list->setAllColumnsShowFocus(true);
     list->setSelectionMode(QAbstractItemView::SingleSelection);
     list->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    list->setTextElideMode(Qt::ElideMiddle); // names differ at their ends, too
     list->header()->setStretchLastSection(true);
     int column = 0;
-    for (const int width : widths) list->setColumnWidth(column++, width);
+    for (const int count : characters) {
+        list->setColumnWidth(column++, count * list->fontMetrics().averageCharWidth());
+    }
     list->installEventFilter(this);
     return list;
 }
 
 void Frm_ProjectManager::BuildLists() {
-    Lvw_Files = MakeList(u"Lvw_Files"_s, m_files, {122, 150, 150, 200, 150, 70});
+    Lvw_Files = MakeList(u"Lvw_Files"_s, m_files, {22, 24, 24, 32, 24, 12});
     Lvw_Files->setAccessibleName(u"Erreichbare Dateien"_s);
-    Lvw_ExtendedFiles = MakeList(u"Lvw_ExtendedFiles"_s, m_extendedFiles, {122, 200, 70});
+    Lvw_ExtendedFiles = MakeList(u"Lvw_ExtendedFiles"_s, m_extendedFiles, {22, 32, 12});
     Lvw_ExtendedFiles->setAccessibleName(u"Weitere Projektdateien"_s);
     const auto connectList = [this](QTreeView* list, List which, void (Frm_ProjectManager::*doubleClick)()) {
-        connect(list, &QTreeView::clicked, this, [this, which](const QModelIndex& index) { Select(which, index.row()); });
+        connect(list, &QTreeView::clicked, this,
+                [this, which](const QModelIndex& index) { Select(which, index.row()); });
         connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                 [this, which](const QItemSelection& selected) {
                     if (!selected.isEmpty()) Select(which, selected.indexes().constFirst().row());
@@ -140,7 +143,8 @@ void Frm_ProjectManager::ShowSkin() {
     }
 }
 
-// --- place ---------------------------------------------------------------------------------------------------
+// --- place
+// ---------------------------------------------------------------------------------------------------
 
 void Frm_ProjectManager::DockFrame() {
     // It stays at its edge: there is nothing to maximise or to minimise.
@@ -205,7 +209,8 @@ void Frm_ProjectManager::PlaceChanged(int state) {
     if (m_open) ActualizeSize(false);
 }
 
-// --- keys and mouse --------------------------------------------------------------------------------------------
+// --- keys and mouse
+// --------------------------------------------------------------------------------------------
 
 bool Frm_ProjectManager::HandleListKey(List list, QEvent* event) {
     const int key = static_cast<QKeyEvent*>(event)->key();
@@ -229,7 +234,8 @@ bool Frm_ProjectManager::eventFilter(QObject* watched, QEvent* event) {
         return key && HandleListKey(watched == Lvw_Files ? List::Files : List::ExtendedFiles, event);
     }
     if (watched == Pic_Resize) {
-        if (type == QEvent::MouseButtonPress) SplitLastTop = static_cast<float>(Twips::FromPixels(Pic_Resize->y()));
+        if (type == QEvent::MouseButtonPress)
+            SplitLastTop = static_cast<float>(Twips::FromPixels(Pic_Resize->y()));
         if (type != QEvent::MouseMove) return false;
         const auto* mouse = static_cast<QMouseEvent*>(event);
         if (mouse->buttons() & Qt::LeftButton) MoveDivider(Twips::FromPixels(mouse->position().y()));
@@ -238,7 +244,12 @@ bool Frm_ProjectManager::eventFilter(QObject* watched, QEvent* event) {
     const bool handled = MdiChild::eventFilter(watched, event);
     // Whoever pulls the window away by its title finds it back at its edge.
     if (watched == Frame() && type == QEvent::Move && !m_fitting && m_open) {
-        QMetaObject::invokeMethod(this, [this] { if (m_open) ActualizeSize(true); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (m_open) ActualizeSize(true);
+            },
+            Qt::QueuedConnection);
     }
     return handled;
 }

@@ -9,11 +9,11 @@ class IndexHistory {
 public:
     static constexpr qsizetype Capacity = 32767;
 
-    // Remembers a page that is being left. A document without a name is passed over, since there is no way back
-    // to it; in a full history the last page gives way.
+    // Remembers a page that is being left. A document without a name is passed over, since there is no way
+    // back to it; in a full history the last page gives way.
     void Push(const QString& page);
-    // The page left last; empty without any. It is the project's index page for as long as it is the first one,
-    // also when it has been gone back to.
+    // The page left last; empty without any. It is the project's index page for as long as it is the first
+    // one, also when it has been gone back to.
     QString TakeLast();
     void Clear();
 

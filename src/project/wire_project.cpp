@@ -10,7 +10,7 @@ namespace Project {
 namespace {
 
 // Answers a call that only a loaded window has something to do for.
-template <class Routine> auto WhenOpen(Routine routine) {
+template<class Routine> auto WhenOpen(Routine routine) {
     return [routine] {
         if (Global::ProjectWindowOpen) routine(Shared<Frm_ProjectManager>());
     };
@@ -23,7 +23,8 @@ void WireProject() {
     ShowProjectManager.AnsweredBy([] { Shared<Frm_ProjectManager>().ShowBeside(); });
     ProjectManagerWidth.AnsweredBy(
         [] { return Global::ProjectWindowOpen ? Shared<Frm_ProjectManager>().Width() : 0; });
-    LayoutProjectManager.AnsweredBy(WhenOpen([](Frm_ProjectManager& window) { window.ActualizeSize(false); }));
+    LayoutProjectManager.AnsweredBy(
+        WhenOpen([](Frm_ProjectManager& window) { window.ActualizeSize(false); }));
     SearchLinks.AnsweredBy(WhenOpen([](Frm_ProjectManager& window) { window.SearchLinks(); }));
     DeleteFileIndex.AnsweredBy(WhenOpen([](Frm_ProjectManager& window) { window.DeleteFileIndex(); }));
     RefreshProject.AnsweredBy(WhenOpen([](Frm_ProjectManager& window) { window.Refresh(); }));

@@ -114,15 +114,19 @@ Neighbours::MainPlace Frm_Main::Place() const {
 
 void Frm_Main::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
-    if (m_wantedPlace.isEmpty()) return;
-    // The settings hold the outer place; what the frame takes of it is known a moment after the window is
-    // mapped.
-    QTimer::singleShot(0, this, [this] {
-        const QRect wanted = std::exchange(m_wantedPlace, {});
-        if (wanted.isEmpty() || isMaximized() || isMinimized()) return;
-        const QMargins frame = windowHandle() ? windowHandle()->frameMargins() : QMargins();
-        setGeometry(wanted.marginsRemoved(frame));
-    });
+    if (!m_wantedPlace.isEmpty()) QTimer::singleShot(0, this, [this] { SettlePlace(20); });
+}
+
+// The settings hold the outer place. What the window manager's frame takes of it is known only some time after the
+// window has been mapped; until then the place is asked for again.
+void Frm_Main::SettlePlace(int tries) {
+    if (m_wantedPlace.isEmpty() || isMaximized() || isMinimized() || m_ending) return;
+    const QMargins frame = windowHandle() ? windowHandle()->frameMargins() : QMargins();
+    if (frame.isNull() && tries > 0) {
+        QTimer::singleShot(25, this, [this, tries] { SettlePlace(tries - 1); });
+        return;
+    }
+    setGeometry(std::exchange(m_wantedPlace, {}).marginsRemoved(frame));
 }
 
 void Frm_Main::resizeEvent(QResizeEvent* event) {

@@ -60,6 +60,7 @@ protected:
 private:
     void WireNeighbours();
     void RestorePlace();
+    void SettlePlace(int tries);
     void ShowWorkScreenSkin();
     void LayOut();
     void StartWork();

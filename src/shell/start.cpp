@@ -140,8 +140,9 @@ void Frm_Main::RestorePlace() {
     // A window from a larger or second screen comes back where it can be seen and used.
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     place.setSize(place.size().expandedTo({480, 360}));
+    const QList<QScreen*> screens = QGuiApplication::screens();
     const bool visible =
-        std::any_of(QGuiApplication::screens().begin(), QGuiApplication::screens().end(),
+        std::any_of(screens.begin(), screens.end(),
                     [&](const QScreen* one) { return one->availableGeometry().intersects(place); });
     if (!visible) place.moveTopLeft(screen.topLeft());
     move(place.topLeft());

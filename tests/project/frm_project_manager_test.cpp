@@ -60,7 +60,9 @@ class FrmProjectManager : public QObject {
         }
         return texts;
     }
-    static QString Cell(const QModelIndex& row, int column) { return row.siblingAtColumn(column).data().toString(); }
+    static QString Cell(const QModelIndex& row, int column) {
+        return row.siblingAtColumn(column).data().toString();
+    }
     // The row of that name, clicked as by the user.
     static QModelIndex ClickRow(QTreeView& list, const QString& name) {
         const qsizetype row = ColumnOf(list, Name).indexOf(name);
@@ -127,11 +129,11 @@ private slots:
         // missing files first, each reached file once, external links last
         QCOMPARE(names.first(2), (QStringList{u"gruendung1951.jpg"_s, u"fotos.htm"_s}));
         QCOMPARE(keys.count(u"aaa"_s), 2);
-        for (const QString& page : {u"index.htm"_s, u"neuigkeiten.html"_s, u"termine.htm"_s, u"vorstand.html"_s,
-                                    u"satzung.htm"_s, u"beitrag.htm"_s, u"lageplan.htm"_s, u"geschichte.htm"_s,
-                                    u"kontakt.htm"_s, u"rahmen.htm"_s, u"kopf.htm"_s, u"navi.htm"_s,
-                                    u"inhalt.htm"_s, u"gartenjahr.html"_s, u"baustelle.htm"_s, u"verein.css"_s,
-                                    u"verein.js"_s, u"rechner.vbs"_s, u"index.wml"_s}) {
+        for (const QString& page :
+             {u"index.htm"_s, u"neuigkeiten.html"_s, u"termine.htm"_s, u"vorstand.html"_s, u"satzung.htm"_s,
+              u"beitrag.htm"_s, u"lageplan.htm"_s, u"geschichte.htm"_s, u"kontakt.htm"_s, u"rahmen.htm"_s,
+              u"kopf.htm"_s, u"navi.htm"_s, u"inhalt.htm"_s, u"gartenjahr.html"_s, u"baustelle.htm"_s,
+              u"verein.css"_s, u"verein.js"_s, u"rechner.vbs"_s, u"index.wml"_s}) {
             QVERIFY2(names.count(page) == 1, qPrintable(page));
         }
         QVERIFY(!names.contains(u"logo.gif"_s)); // a picture that is there is no part of the list
@@ -230,10 +232,11 @@ private slots:
         Press(u"GoTo"_s);
         QCOMPARE(Box().SelText(), u"aktuell/neuigkeiten.html"_s);
         ClickRow(FileList(), u"index.htm"_s);
-        m_dialogs->ExpectMessage(u"Öffnen"_s,
-                                 u"In der Datei befindet sich kein Link zu dieser Seite, da die ausgewählte Seite die "
-                                 "offene Datei ist."_s,
-                                 Answer::Ok, Dialogs::Icon::Exclamation);
+        m_dialogs->ExpectMessage(
+            u"Öffnen"_s,
+            u"In der Datei befindet sich kein Link zu dieser Seite, da die ausgewählte Seite die "
+            "offene Datei ist."_s,
+            Answer::Ok, Dialogs::Icon::Exclamation);
         Press(u"GoTo"_s);
         // a missing file that another page links to
         const QModelIndex missing = ClickRow(FileList(), u"gruendung1951.jpg"_s);
@@ -256,9 +259,8 @@ private slots:
         OpenSite();
         const auto expect = [&](Answer answer) {
             m_dialogs->ExpectMessage(
-                u"Löschen"_s,
-                u"Sind Sie sicher, dass Sie die Datei in den Papierkorb verschieben möchten?"_s, answer,
-                Dialogs::Icon::Exclamation);
+                u"Löschen"_s, u"Sind Sie sicher, dass Sie die Datei in den Papierkorb verschieben möchten?"_s,
+                answer, Dialogs::Icon::Exclamation);
         };
         ClickRow(FileList(), u"termine.htm"_s);
         expect(Answer::No);
@@ -282,7 +284,8 @@ private slots:
             m_dialogs->ExpectOpenFile(u"Projektdatei einfügen"_s, Page(u"dateien/"_s + file));
             Press(u"New_InsertFile"_s);
         }
-        QVERIFY(m_dialogs->lastFileQuestion.filter.contains(u"|Archive (*.zip)|*.zip|Alle Dateien (*.*)|*.*"));
+        QVERIFY(
+            m_dialogs->lastFileQuestion.filter.contains(u"|Archive (*.zip)|*.zip|Alle Dateien (*.*)|*.*"));
         QCOMPARE(ColumnOf(AddedList(), Name), (QStringList{u"antrag.pdf"_s, u"preisliste.txt"_s}));
         m_dialogs->ExpectOpenFile(u"Projektdatei einfügen"_s, {});
         Press(u"New_InsertFile"_s);
@@ -298,8 +301,8 @@ private slots:
         QCOMPARE(Enabled(), u"Open Delete New"_s);
         m_dialogs->ExpectMessage(
             u"Entfernen"_s,
-            u"Möchten Sie diese Datei aus dem Projekt entfernen? Sie wird dabei nicht gelöscht."_s, Answer::Yes,
-            Dialogs::Icon::Exclamation);
+            u"Möchten Sie diese Datei aus dem Projekt entfernen? Sie wird dabei nicht gelöscht."_s,
+            Answer::Yes, Dialogs::Icon::Exclamation);
         Press(u"Delete"_s);
         QCOMPARE(ColumnOf(AddedList(), Name), QStringList{u"preisliste.txt"_s});
         QVERIFY(m_folder->Has(u"verein/dateien/antrag.pdf"_s));
@@ -329,10 +332,11 @@ private slots:
         QByteArray lines;
         for (int i = 0; i < 1025; ++i) lines += "/x/" + QByteArray::number(i) + ".gif\r\n";
         m_folder->Write(u"verein/index..prj"_s, lines);
-        m_dialogs->ExpectMessage(u"ProjektManager"_s,
-                                 u"Die Projektdatei '%1' enthält mehr als 1024 Einträge und kann nicht geladen "
-                                 "werden."_s.arg(m_folder->System(u"verein/index..prj"_s)),
-                                 Answer::Ok, Dialogs::Icon::Critical);
+        m_dialogs->ExpectMessage(
+            u"ProjektManager"_s,
+            u"Die Projektdatei '%1' enthält mehr als 1024 Einträge und kann nicht geladen "
+            "werden."_s.arg(m_folder->System(u"verein/index..prj"_s)),
+            Answer::Ok, Dialogs::Icon::Critical);
         OpenSite();
         Driver::Trigger(u"Menu_File_Save"_s); // scans again, and says nothing more
         Unload<Frm_ProjectManager>();
@@ -342,17 +346,21 @@ private slots:
         Documents::OpenFile(Page(u"wap/index.wml"_s));
         Driver::Trigger(u"Menu_Tools_ProjectManager"_s);
         m_dialogs->ExpectOpenFile(u"Projektdatei einfügen"_s, Page(u"index.htm"_s));
-        m_dialogs->ExpectMessage(u"ProjektManager"_s,
-                                 u"Die Projektdatei '%1' kann nicht gespeichert werden. Stellen Sie sicher, dass sie "
-                                 "nicht schreibgeschützt ist."_s.arg(m_folder->System(u"verein/wap/index..prj"_s)));
+        m_dialogs->ExpectMessage(
+            u"ProjektManager"_s,
+            u"Die Projektdatei '%1' kann nicht gespeichert werden. Stellen Sie sicher, dass sie "
+            "nicht schreibgeschützt ist."_s.arg(m_folder->System(u"verein/wap/index..prj"_s)));
         Press(u"New_InsertFile"_s);
     }
 
     void makesNewPages_data() {
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("type");
-        for (const auto& [key, type] : {std::pair{"New", "XHTML"}, {"New_XHTML", "XHTML"}, {"New_HTML", "HTML"},
-                                        {"New_WAP", "WML"}, {"New_Text", "Text"}}) {
+        for (const auto& [key, type] : {std::pair{"New", "XHTML"},
+                                        {"New_XHTML", "XHTML"},
+                                        {"New_HTML", "HTML"},
+                                        {"New_WAP", "WML"},
+                                        {"New_Text", "Text"}}) {
             QTest::newRow(key) << QString::fromLatin1(key) << QString::fromLatin1(type);
         }
     }
@@ -417,22 +425,23 @@ private slots:
         Global::MaxLinkDeep = 1;
         int rowsSeen = 0;
         bool picked = false;
-        const auto before = Events::Replace({[&] {
-                                                 QCoreApplication::processEvents();
-                                                 if (!Loaded<Frm_ProjectManager>()) return;
-                                                 if (Shared<Frm_ProjectManager>().ScanFinished) return;
-                                                 if (!picked) QThread::msleep(40);
-                                                 rowsSeen = FileList().model()->rowCount();
-                                                 if (rowsSeen < 10 || picked) return;
-                                                 picked = true;
-                                                 QCOMPARE(Enabled(), QString());
-                                                 QCOMPARE(Shared<Frm_ProjectManager>().windowTitle(),
-                                                          u"ProjektManager wird aktualisiert..."_s);
-                                                 DoubleClickRow(FileList(), u"index.htm"_s); // opens nothing yet
-                                                 ClickRow(FileList(), u"s3.htm"_s);
-                                             },
-                                             {},
-                                             {}});
+        const auto before =
+            Events::Replace({[&] {
+                                 QCoreApplication::processEvents();
+                                 if (!Loaded<Frm_ProjectManager>()) return;
+                                 if (Shared<Frm_ProjectManager>().ScanFinished) return;
+                                 if (!picked) QThread::msleep(40);
+                                 rowsSeen = FileList().model()->rowCount();
+                                 if (rowsSeen < 10 || picked) return;
+                                 picked = true;
+                                 QCOMPARE(Enabled(), QString());
+                                 QCOMPARE(Shared<Frm_ProjectManager>().windowTitle(),
+                                          u"ProjektManager wird aktualisiert..."_s);
+                                 DoubleClickRow(FileList(), u"index.htm"_s); // opens nothing yet
+                                 ClickRow(FileList(), u"s3.htm"_s);
+                             },
+                             {},
+                             {}});
         Driver::Trigger(u"Menu_Tools_ProjectManager"_s);
         Events::Replace(before);
         QCOMPARE(FileList().model()->rowCount(), 3001);
