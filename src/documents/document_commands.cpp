@@ -109,9 +109,8 @@ bool OpenText(const QString& path, bool preview) {
             u"Huston, wir haben ein Problem. Der Dokumenttyp konnte nicht ermittelt werden. Die Datei wird "
             u"als Text "
             "geöffnet."_s);
-    Neighbours::ActivateToolBar(); // once more, now that the type is known: a script before must leave no trace
-    RefreshWindows();
-    if (!preview) Neighbours::FocusCode(); // the user types on in the page, not in a window that has just come up
+    Neighbours::ActivateToolBar(); // once more, now that the type is known: a script before must leave no
+                                   // trace
     return true;
 }
 
@@ -153,6 +152,14 @@ void OpenFile(const QString& path, bool& preview) {
     Global::DocOpen = true;
     Global::DocChanged = false;
     Neighbours::SetStatusPanel(StatePanel, u"gespeichert"_s);
+    Neighbours::ActivateFunktions();
+    if (picture) return;
+    // The scan of the links lets events run: whatever its user does meanwhile must not be undone behind it,
+    // so the document's state is settled before.
+    RefreshWindows();
+    const bool same = Global::CurrentFile == path && Global::CodeWindowOpen;
+    // the user types on in the page, not in a window that has just come up
+    if (same && !preview) Neighbours::FocusCode();
     Neighbours::ActivateFunktions();
 }
 

@@ -117,8 +117,8 @@ void Frm_Main::showEvent(QShowEvent* event) {
     if (!m_wantedPlace.isEmpty()) QTimer::singleShot(0, this, [this] { SettlePlace(20); });
 }
 
-// The settings hold the outer place. What the window manager's frame takes of it is known only some time after the
-// window has been mapped; until then the place is asked for again.
+// The settings hold the outer place. What the window manager's frame takes of it is known only some time
+// after the window has been mapped; until then the place is asked for again.
 void Frm_Main::SettlePlace(int tries) {
     if (m_wantedPlace.isEmpty() || isMaximized() || isMinimized() || m_ending) return;
     const QMargins frame = windowHandle() ? windowHandle()->frameMargins() : QMargins();

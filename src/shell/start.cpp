@@ -141,9 +141,9 @@ void Frm_Main::RestorePlace() {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     place.setSize(place.size().expandedTo({480, 360}));
     const QList<QScreen*> screens = QGuiApplication::screens();
-    const bool visible =
-        std::any_of(screens.begin(), screens.end(),
-                    [&](const QScreen* one) { return one->availableGeometry().intersects(place); });
+    const bool visible = std::any_of(screens.begin(), screens.end(), [&](const QScreen* one) {
+        return one->availableGeometry().intersects(place);
+    });
     if (!visible) place.moveTopLeft(screen.topLeft());
     move(place.topLeft());
     resize(place.size());

@@ -94,6 +94,10 @@ RunningProgram::RunningProgram() {
 RunningProgram::~RunningProgram() {
     Wiring::UnloadAll();
     Clipboard::Install({});
+    // A program that has ended leaves word that event loops are to end at once; a loop of the application
+    // takes it back.
+    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    QApplication::exec();
 }
 
 } // namespace Driver
