@@ -60,8 +60,8 @@ QWidget* MdiChild::Frame() const {
 void MdiChild::SetPlace(int left, int top, int width, int height) {
     m_placing = true;
     m_place = {left, top, width, height};
-    // Both edges are cut to whole pixels, so that neighbours meet without a gap and no window reaches beyond the
-    // client area by part of a pixel.
+    // Both edges are cut to whole pixels, so that neighbours meet without a gap and no window reaches beyond
+    // the client area by part of a pixel.
     const auto edge = [](int twips) { return static_cast<int>(std::floor(double(twips) / Twips::PerPixel)); };
     const int x = edge(left);
     const int y = edge(top);
