@@ -22,11 +22,13 @@ take() { # name, width, height, theme
     XDG_CONFIG_HOME="$work/config" QT_QPA_PLATFORMTHEME="$4" QTWEBENGINE_DISABLE_SANDBOX=1 \
         PROGRAM="$work/bin/sorvane" PAGE="$work/verein/index.htm" PICTURE="$here/docs/pictures/$1.png" \
         xvfb-run -a -s "-screen 0 $2x$3x24" sh -c '
-        openbox & sleep 1
-        "$PROGRAM" "$PAGE" & sleep 5
+        openbox & manager=$!
+        sleep 1
+        "$PROGRAM" "$PAGE" & editor=$!
+        sleep 5
         xdotool key --clearmodifiers Down; sleep 1
         import -window root "$PICTURE"
-        kill %2 %1 2>/dev/null; wait 2>/dev/null || true' >/dev/null 2>&1
+        kill -9 $editor; kill $manager; true' >/dev/null 2>&1
     echo "docs/pictures/$1.png"
 }
 take small_light 800 600 ""
