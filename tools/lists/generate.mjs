@@ -40,10 +40,10 @@ function unique(list) {
 
 async function standardTags() {
   const listed = await elements.listAll();
-  const specs = ['html', 'SVG11', 'SVG2', 'filter-effects-1', 'svg-animations', 'mathml-core'];
-  const missing = specs.filter((spec) => !listed[spec]);
+  const standards = ['html', 'SVG11', 'SVG2', 'filter-effects-1', 'svg-animations', 'mathml-core'];
+  const missing = standards.filter((name) => !listed[name]);
   if (missing.length > 0) throw new Error(`element tables without ${missing.join(', ')}`);
-  return specs.flatMap((spec) => listed[spec].elements.map((element) => element.name));
+  return standards.flatMap((name) => listed[name].elements.map((element) => element.name));
 }
 
 async function tagNames() {
