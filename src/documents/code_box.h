@@ -16,6 +16,9 @@ public:
     virtual QString Text() const = 0;
     // Replaces the whole text (line ends are made full ones), leaves the caret at its start.
     virtual void SetText(const QString& text) = 0;
+    // The same as the beginning of another document: a history belongs to one document, so no undo step of
+    // the box leads back behind this.
+    virtual void BeginDocument(const QString& text) = 0;
 
     virtual qsizetype SelStart() const = 0;
     virtual void SetSelStart(qsizetype start) = 0; // collapses the selection
@@ -27,7 +30,7 @@ public:
     // the pair: both halves become full line breaks. Nothing written over nothing is no change.
     virtual void SetSelText(const QString& text) = 0;
 
-    // Reads a file into the box as plain text; returns whether it could be read.
+    // Begins a document with a file's text; returns whether it could be read.
     virtual bool LoadFile(const QString& path) = 0;
 
     virtual void SetFocus() = 0;

@@ -5,6 +5,7 @@
 #include "documents/code_box.h"
 #include "documents/document_file.h"
 #include "documents/paths.h"
+#include "documents/recovery.h"
 #include "documents/undo.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
@@ -52,16 +53,15 @@ void ShowFileCaption(const QString& path) {
     Neighbours::SetMainCaption(u"%1 [%2]"_s.arg(Global::ProgramName, Global::FileNameOf(path)));
 }
 
-QString CurrentText() {
-    if (!Global::CodeWindowOpen) return Global::HeldSource;
-    const CodeBox* box = Neighbours::TheCodeBox();
-    return box ? box->Text() : Global::HeldSource;
-}
-
+// CurrentFile keeps the name of the file that could not be read, but no text goes under that name: the one
+// that was open has had its question, and goes with its window.
 void FailToOpen() {
-    // The text that was open stays in HeldSource when its window goes.
     if (Global::CodeWindowOpen) Neighbours::UnloadWindow(u"Frm_Code"_s);
     if (Global::BrowserOpen) Neighbours::UnloadWindow(u"Frm_Browser"_s);
+    ForgetText();
+    Global::OpenFailed = true;
+    ShowAtRest();
+    Neighbours::ActivateFunktions();
     TellError(
         u"Fehler beim Laden der Datei. Stellen Sie sicher, dass die Datei existiert und nicht geschützt ist."_s);
 }
@@ -69,9 +69,10 @@ void FailToOpen() {
 bool OpenPicture(const QString& path) {
     auto picture = DocumentFile::LoadRaw(path);
     if (!picture) return false;
-    Global::PicturePreview = true;
     Neighbours::ActivateToolBar();
     Neighbours::UnloadWindow(u"Frm_Code"_s);
+    ForgetText();
+    Global::PicturePreview = true;
     // The bytes are kept as they are: a save must not take them for text.
     Global::HeldSource = std::move(picture->text);
     picture->format.lfOnly = false;
@@ -94,13 +95,16 @@ void RefreshWindows() {
 
 bool OpenText(const QString& path, bool preview) {
     auto document = DocumentFile::Load(path);
-    CodeBox* box = document ? Neighbours::TheCodeBox() : nullptr;
+    if (!document) return false;
+    ForgetText();
+    CodeBox* box = Neighbours::OpenCodeBox();
     if (!box) return false;
-    Global::PicturePreview = false;
-    box->SetText(document->text);
+    Neighbours::HidePopupList();
+    box->BeginDocument(document->text);
     SetFormat(document->format);
     Neighbours::ActivateToolBar();
     if (preview && Text::UpperCase(Global::CurrentExtension).startsWith(u"HTM")) {
+        Neighbours::ShowCodeWindow(); // behind the preview, where its user finds it
         Neighbours::Browse(path);
     } else {
         Neighbours::FocusCode();
@@ -121,14 +125,33 @@ void SetFormat(const CodePage::Format& format) {
     Neighbours::SetStatusPanel(EncodingPanel, CodePage::Name(format));
 }
 
+QString CurrentText() {
+    const CodeBox* box = Global::CodeWindowOpen ? Neighbours::TheCodeBox() : nullptr;
+    return box ? box->Text() : Global::HeldSource;
+}
+
+void ForgetText() {
+    Recovery::Leave();
+    Global::HeldSource.clear();
+    Global::PicturePreview = Global::OpenFailed = Global::DocChanged = false;
+}
+
+void ShowAtRest() {
+    Neighbours::SetStatusPanel(TypePanel, u"Bereit"_s);
+    Neighbours::SetStatusPanel(StatePanel, u"Bereit"_s);
+    Neighbours::SetStatusPanel(EncodingPanel, {});
+}
+
 bool AskToSave(const QString& title, SaveFirst save) {
     if (!Global::DocChanged) return true;
     switch (
         Dialogs::MsgBox({title, UnsavedQuestion, Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel})) {
     case Answer::Yes:
         Menu_File_Save_Click();
-        return save == SaveFirst::MayFail || Global::SaveSucceeded;
+        // A text that was to be saved is not given up before there is a copy of it.
+        return Global::SaveSucceeded || (save == SaveFirst::MayFail && Recovery::Write());
     case Answer::No:
+        Recovery::Settle();
         return true;
     default:
         return false;
@@ -138,8 +161,6 @@ bool AskToSave(const QString& title, SaveFirst save) {
 void OpenFile(const QString& path, bool& preview) {
     Undo::UndoClear();
     if (!Global::AutoPreView) preview = false;
-    Neighbours::TheCodeBox(); // loads Frm_Code if needed
-    Neighbours::HidePopupList();
     Global::CurrentFile = path;
     Global::CurrentExtension = Global::ExtensionOf(path);
     Neighbours::UnloadWindow(u"Frm_Welcome"_s);
@@ -215,13 +236,16 @@ QString TextToWrite(bool wml) {
     } else {
         text = Global::HeldSource;
     }
-    if (lower && Global::DocType != u"IMG") CodeAccess::LowerCaseTags(text);
+    // The bytes of a picture are no text: nothing is taken from them but the line end that is added again.
+    if (Global::PicturePreview) return text.endsWith(Text::LineBreak) ? text.chopped(2) : text;
+    if (lower) CodeAccess::LowerCaseTags(text);
     text = DocumentFile::TrimTail(text);
     if (wml) text.replace(u'\t', u"   "_s);
     return text;
 }
 
 void WriteDocument(bool refreshProject) {
+    if (Global::OpenFailed) return;
     const QString path = Global::CurrentFile;
     const QString extension = Global::ExtensionOf(path);
     const QString text = TextToWrite(extension == u"wml");
@@ -231,8 +255,10 @@ void WriteDocument(bool refreshProject) {
             u"Fehler beim Speichern der Datei. Stellen Sie sicher, dass die Datei nicht schreibgeschützt ist."_s);
         Global::CurrentFile.clear(); // the next save asks for a name
         if (Global::ProjectWindowOpen) Neighbours::RefreshProject();
+        Neighbours::ActivateFunktions();
         return;
     }
+    Recovery::Settle();
     SetFormat(format);
     ShowFileCaption(path);
     Global::LastFile = path;
@@ -265,6 +291,7 @@ void FileSaveWithoutManager() { Save(false); }
 
 void Menu_File_SaveAs() {
     Global::SaveSucceeded = false;
+    if (Global::OpenFailed) return;
     const QString path = Dialogs::SaveFileDialog(u"Speichern unter"_s, SaveFilter);
     if (path.isEmpty()) return;
     if (Files::CanRead(path)) {
@@ -279,6 +306,7 @@ void Menu_File_SaveAs() {
 }
 
 void SaveBackUp() {
+    if (Global::OpenFailed) return;
     CodePage::Format format = Global::DocumentFormat;
     DocumentFile::Save(Global::CurrentFile + u".bak"_s, DocumentFile::TrimTail(CurrentText()), format);
 }
@@ -290,24 +318,17 @@ void Menu_File_Close() {
     Global::CloseSucceeded = true;
 }
 
-namespace {
-QString RecoveryPath() { return Files::ProgramDirectory() + u"\\bckup.tmp"_s; }
-} // namespace
-
-void WriteRecoveryFile() {
-    CodePage::Format format = Global::DocumentFormat;
-    DocumentFile::Save(RecoveryPath(), CurrentText(), format);
-}
-
-void LoadRecoveryFile() {
-    const auto document = DocumentFile::Load(RecoveryPath());
-    CodeBox* box = document ? Neighbours::TheCodeBox() : nullptr;
+void ShowRestored(const CodePage::Decoded& text) {
+    CodeBox* box = Neighbours::TheCodeBox();
     if (!box) return;
-    box->SetText(document->text);
-    SetFormat(document->format);
+    box->BeginDocument(text.text);
+    SetFormat(text.format);
+    const QString type = DocumentFile::TypeByMarker(text.text);
+    if (!type.isEmpty()) SetType(type, {});
+    Global::DocChanged = true;
+    Neighbours::ActivateToolBar();
+    Neighbours::ActivateFunktions();
 }
-
-bool RecoveryFileExists() { return Files::CanRead(RecoveryPath()); }
 
 } // namespace Documents
 
@@ -322,7 +343,8 @@ void CloseDocument() {
           u"Frm_ProjectManager"_s}) {
         Neighbours::UnloadWindow(window);
     }
-    DocChanged = false; // the windows that went may have touched the text
+    Documents::ForgetText(); // once the windows are gone, which may have touched it
+    Documents::ShowAtRest();
     Neighbours::ActivateFunktions();
     Neighbours::SetMainCaption({});
 }

@@ -11,9 +11,19 @@ namespace Documents {
 // What a document stands in on disk, and its name in the status bar.
 void SetFormat(const CodePage::Format& format);
 
+// The text that is open: the code box's, or the held one while its window is closed.
+QString CurrentText();
+// Ends what belongs to the present document alone; another one takes its place, or none.
+void ForgetText();
+// The status bar without a document.
+void ShowAtRest();
+// Puts a recovered text into the new document that is open.
+void ShowRestored(const CodePage::Decoded& text);
+
 enum class SaveFirst { MustSucceed, MayFail };
 // Asks under `title` whether unsaved changes are to be saved, and saves them. Returns whether the command may
-// go on: yes without changes and for the answer no, never for cancel, and after saving as told by `save`.
+// go on: yes without changes and for the answer no, never for cancel, and after saving as told by `save`;
+// where it may fail, a recovery copy must have been written instead.
 bool AskToSave(const QString& title, SaveFirst save);
 
 // Loads a file. `preview` asks for the browser view; it becomes false where the settings do not want it.
@@ -30,12 +40,6 @@ void FileSaveWithoutManager();
 void Menu_File_SaveAs();
 void Menu_File_Close();
 void SaveBackUp();
-
-// Writes the code box's text to bckup.tmp in the program directory; does nothing on failure.
-void WriteRecoveryFile();
-// Reads that file back into the code box; does nothing on failure.
-void LoadRecoveryFile();
-bool RecoveryFileExists();
 
 } // namespace Documents
 

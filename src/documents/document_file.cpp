@@ -40,9 +40,10 @@ QString TrimTail(const QString& text) {
     for (const QChar c : QStringView(text).sliced(last)) {
         if (c.unicode() >= 33) return text;
     }
-    const QString cut = text.first(last);
-    // Of several empty lines at the end exactly one is lost, the line end that saving adds counted in.
-    return cut.endsWith(Text::LineBreak) ? cut.chopped(Text::LineBreak.size()) : cut;
+    // With the line end that saving adds, a text that ends in one line end or one empty line is written as it
+    // is; of several empty lines exactly one is lost by each save.
+    const bool several = text.endsWith(u"\r\n\r\n\r\n");
+    return text.first(several ? last - Text::LineBreak.size() : last);
 }
 
 bool IsPicture(const QString& extension) {

@@ -19,8 +19,8 @@ std::optional<CodePage::Decoded> LoadRaw(const QString& path);
 // encoding. Returns whether it worked; on failure the old file is whole.
 bool Save(const QString& path, const QString& text, CodePage::Format& format);
 
-// `text` without its last line, where that line holds nothing but blanks and control characters; and without
-// one more line break where the line before it is empty, too.
+// `text` without its last line, where that line holds nothing but blanks and control characters; of several
+// empty lines at its end one more goes.
 QString TrimTail(const QString& text);
 
 // Whether the extension (any case) is that of a picture that the preview shows.

@@ -82,7 +82,7 @@ void Frm_Code::OnLoad() {
     LoadScriptObjects();
     // The held text is the document's own: its coming back is a change, but no step of the undo.
     Global::SkipUndoOnChange = true;
-    TextBox->SetText(Global::HeldSource);
+    TextBox->BeginDocument(Global::HeldSource);
     ActualizeSize();
     Neighbours::ActivateFunktions();
 }

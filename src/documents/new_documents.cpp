@@ -26,13 +26,10 @@ void Create(const Kind& kind) {
     Neighbours::UnloadWindow(u"Frm_Welcome"_s);
     Global::DocType = kind.type;
     Neighbours::SetStatusPanel(1, kind.panel);
-    Global::HeldSource.clear();
-    CodeBox* box = Neighbours::TheCodeBox();
+    ForgetText();
+    CodeBox* box = Neighbours::OpenCodeBox();
     Neighbours::HidePopupList();
-    if (box) {
-        box->SetText({});
-        if (!kind.text.isEmpty()) box->SetText(kind.text);
-    }
+    if (box) box->BeginDocument(kind.text);
     Neighbours::SetMainCaption(u"%1 [%2]"_s.arg(Global::ProgramName, kind.caption));
     Global::DocOpen = true;
     Global::CurrentFile.clear();

@@ -40,7 +40,7 @@ void TextBuffer::SetSelText(const QString& text) {
 
 bool TextBuffer::LoadFile(const QString& path) {
     const auto document = DocumentFile::Load(path);
-    if (document) SetText(document->text);
+    if (document) BeginDocument(document->text);
     return document.has_value();
 }
 

@@ -12,6 +12,7 @@ public:
 
     QString Text() const override { return m_text; }
     void SetText(const QString& text) override;
+    void BeginDocument(const QString& text) override { SetText(text); }
     qsizetype SelStart() const override { return m_start; }
     void SetSelStart(qsizetype start) override;
     qsizetype SelLength() const override { return m_length; }

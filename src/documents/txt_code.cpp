@@ -112,9 +112,14 @@ void Txt_Code::SetText(const QString& text) {
     FireSelChange();
 }
 
+void Txt_Code::BeginDocument(const QString& text) {
+    SetText(text);
+    document()->clearUndoRedoStacks();
+}
+
 bool Txt_Code::LoadFile(const QString& path) {
     const auto loaded = DocumentFile::Load(path);
-    if (loaded) SetText(loaded->text);
+    if (loaded) BeginDocument(loaded->text);
     return loaded.has_value();
 }
 

@@ -15,6 +15,7 @@ public:
 
     QString Text() const override { return m_text; }
     void SetText(const QString& text) override;
+    void BeginDocument(const QString& text) override;
     qsizetype SelStart() const override;
     void SetSelStart(qsizetype start) override;
     qsizetype SelLength() const override;

@@ -37,7 +37,8 @@ void WriteText(CodeBox& box, const QString& text) {
 } // namespace
 
 void PushUndo() {
-    const CodeBox* box = Neighbours::TheCodeBox();
+    const CodeBox* box =
+        Global::CodeWindowOpen ? Neighbours::TheCodeBox() : nullptr; // a copy opens no window
     if (!box) return;
     Ring().Push(box->Text(), Depth);
     UndoTouched = u"-"_s;

@@ -5,11 +5,14 @@
 #include "platform/literals.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
+#include <QPointer>
 #include <QUrl>
 
 namespace Dialogs {
@@ -31,6 +34,57 @@ QMessageBox::Icon QtIcon(Icon icon) {
     }
     return QMessageBox::NoIcon;
 }
+
+// A question takes only its own answers: Esc and the frame's X choose "Abbrechen" where there is one; a
+// question without it stays until it is answered.
+class QuestionBox : public QMessageBox {
+public:
+    QuestionBox(const Message& message, StandardButtons buttons, QWidget* parent)
+        : QMessageBox(QtIcon(message.icon), message.title, QString(message.text).replace(u"\r\n"_s, u"\n"_s),
+                      buttons, parent),
+          m_stays(message.buttons == Buttons::YesNo) {
+        if (m_stays) setWindowFlag(Qt::WindowCloseButtonHint, false);
+    }
+
+    void reject() override {
+        if (!m_stays) QMessageBox::reject();
+    }
+
+protected:
+    void closeEvent(QCloseEvent* event) override {
+        if (m_stays) return event->ignore();
+        QMessageBox::closeEvent(event);
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (m_stays && event->matches(QKeySequence::Cancel)) return event->accept();
+        QMessageBox::keyPressEvent(event);
+    }
+
+private:
+    const bool m_stays;
+};
+
+// The splash lies over all windows; while a dialog is open it must not lie over its buttons.
+class WithoutSplash {
+public:
+    WithoutSplash() {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->windowType() != Qt::SplashScreen || !window->isVisible()) continue;
+            window->hide();
+            m_hidden.append(window);
+        }
+    }
+    ~WithoutSplash() {
+        for (const QPointer<QWidget>& window : m_hidden) {
+            if (window) window->show();
+        }
+    }
+    WithoutSplash(const WithoutSplash&) = delete;
+    WithoutSplash& operator=(const WithoutSplash&) = delete;
+
+private:
+    QList<QPointer<QWidget>> m_hidden;
+};
 
 QMessageBox::StandardButtons QtButtons(Buttons buttons) {
     switch (buttons) {
@@ -58,9 +112,20 @@ QStringList QtFilters(const QString& filter) {
     return filters;
 }
 
+QString ExtensionOfGroup(const QString& filter, const QString& chosen) {
+    const QStringList parts = filter.split(u'|');
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        // the dialog tells the group with or without the patterns that were put behind its label
+        if (chosen != parts[i] && !chosen.startsWith(parts[i] + u" ("_s)) continue;
+        const QString pattern = parts[i + 1].section(u';', 0, 0);
+        return pattern.startsWith(u"*.") && pattern != u"*.*" ? pattern.sliced(1) : QString();
+    }
+    return {};
+}
+
 Answer QtHandler::Ask(const Message& message) {
-    QMessageBox box(QtIcon(message.icon), message.title, QString(message.text).replace(u"\r\n"_s, u"\n"_s),
-                    QtButtons(message.buttons), QApplication::activeWindow());
+    const WithoutSplash free;
+    QuestionBox box(message, QtButtons(message.buttons), QApplication::activeWindow());
     box.setObjectName(u"MsgBox"_s);
     box.setTextFormat(Qt::PlainText);
     if (message.buttons != Buttons::Ok) {
@@ -71,14 +136,9 @@ Answer QtHandler::Ask(const Message& message) {
         return Answer::Yes;
     case QMessageBox::No:
         return Answer::No;
-    case QMessageBox::Ok:
-        return Answer::Ok;
     default:
-        break;
+        return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
     }
-    return message.buttons == Buttons::Ok      ? Answer::Ok
-           : message.buttons == Buttons::YesNo ? Answer::No
-                                               : Answer::Cancel;
 }
 
 QString QtHandler::AskText(const QString& prompt, const QString& title, const QString& preset) {
@@ -107,9 +167,7 @@ QString QtHandler::ChooseFile(const FileQuestion& question, bool save) {
     m_lastFolder = QFileInfo(path).absolutePath();
     // A name typed without an extension gets the first one of the chosen group.
     if (save && QFileInfo(path).suffix().isEmpty()) {
-        const qsizetype group = dialog.nameFilters().indexOf(dialog.selectedNameFilter());
-        const QString pattern = question.filter.split(u'|').value(2 * group + 1).section(u';', 0, 0);
-        if (pattern.startsWith(u"*.") && pattern != u"*.*") path += pattern.mid(1);
+        path += ExtensionOfGroup(question.filter, dialog.selectedNameFilter());
     }
     return Files::FromSystem(path);
 }

@@ -34,4 +34,8 @@ private:
 // The groups of a "label|pattern;pattern" filter as Qt's dialogs read them.
 QStringList QtFilters(const QString& filter);
 
+// The extension, with its dot, that a name without one gets in the group which the dialog calls `chosen`: the
+// first of the group in `filter`; empty for all files.
+QString ExtensionOfGroup(const QString& filter, const QString& chosen);
+
 } // namespace Dialogs

@@ -10,6 +10,12 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <algorithm>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <unistd.h>
+#endif
 
 namespace Files {
 
@@ -53,17 +59,46 @@ QString LinkTarget(QString system) {
     return system;
 }
 
+// Whether the system has put all that was written on the disk. Some file systems know no such request; there
+// the writing itself has to tell.
+bool IsOnDisk(QFileDevice& file) {
+    if (!file.flush()) return false;
+#ifdef Q_OS_UNIX
+    if (::fsync(file.handle()) != 0) return errno == EINVAL || errno == ENOTSUP || errno == EROFS;
+#endif
+    return true;
+}
+
+// Without a second copy: what is longer than the old file is put behind it first, so that a full disk is met
+// while the old bytes still stand.
 bool WriteInPlace(const QString& system, const QByteArray& bytes) {
+    const bool isNew = !QFileInfo::exists(system);
     QFile file(system);
     if (!file.open(QIODevice::ReadWrite)) return false;
-    const QByteArray before = file.readAll();
-    const auto overwrite = [&](const QByteArray& content) {
-        return file.seek(0) && file.write(content) == content.size() && file.flush() &&
-               file.resize(content.size());
-    };
-    if (overwrite(bytes)) return true;
-    overwrite(before);
-    return false;
+    const qint64 before = file.size();
+    if (bytes.size() > before) {
+        const QByteArray tail = bytes.sliced(before);
+        if (!file.seek(before) || file.write(tail) != tail.size() || !IsOnDisk(file)) {
+            file.resize(before);
+            if (isNew) file.remove();
+            return false;
+        }
+    }
+    const QByteArray head = bytes.first(std::min<qint64>(before, bytes.size()));
+    return file.seek(0) && file.write(head) == head.size() && IsOnDisk(file) && file.resize(bytes.size());
+}
+
+// By way of a second file beside the target. Nothing where that file cannot be made or cannot take the
+// target's name, as for names that leave no room for the second one's ending.
+std::optional<bool> WriteBeside(const QString& system, const QByteArray& bytes) {
+    QSaveFile file(system);
+    if (!file.open(QIODevice::WriteOnly)) return std::nullopt;
+    // commit() alone takes a last block for written that the disk has refused
+    if (file.write(bytes) != bytes.size() || !IsOnDisk(file)) {
+        file.cancelWriting();
+        return false;
+    }
+    return file.commit() ? std::optional(true) : std::nullopt;
 }
 
 } // namespace
@@ -118,11 +153,11 @@ bool Write(const QString& path, const QByteArray& bytes) {
     const QString system = LinkTarget(ToSystem(path));
     const QFileInfo info(system);
     if (info.exists() && (!info.isFile() || !info.isWritable())) return false;
-    // A folder that takes no new file still lets its writable files be changed; there is no second copy then.
-    if (info.exists() && !QFileInfo(info.absolutePath()).isWritable()) return WriteInPlace(system, bytes);
-    QSaveFile file(system);
-    if (!file.open(QIODevice::WriteOnly)) return false;
-    return file.write(bytes) == bytes.size() && file.commit();
+    // No second file can be made in a folder without the right to it, nor beside a name as long as names may
+    // be.
+    const bool beside = !info.exists() || QFileInfo(info.absolutePath()).isWritable();
+    const std::optional<bool> written = beside ? WriteBeside(system, bytes) : std::nullopt;
+    return written ? *written : WriteInPlace(system, bytes);
 }
 
 bool CanRead(const QString& path) {

@@ -26,9 +26,10 @@ enum class ReadError { None, FileNotFound, PathNotFound, Other };
 std::optional<QByteArray> Read(const QString& path, ReadError* error = nullptr);
 // The text of one of the program's own files, which are Windows-1252; nothing on failure.
 std::optional<QString> ReadProgramText(const QString& path);
-// Replaces a file by way of a temporary one and a rename, so that a failure leaves the old file whole. Keeps
-// the permissions of an existing file and writes through a symbolic link to its target. Returns whether it
-// worked.
+// Replaces a file by way of a temporary one and a rename. Written means on the disk: it counts as written
+// only when its last byte has been flushed without an error; until then the old file is whole under its name.
+// Keeps the permissions of an existing file and writes through a symbolic link to its target. Returns whether
+// it worked.
 bool Write(const QString& path, const QByteArray& bytes);
 
 // Whether the file can be opened for reading; false for a folder.

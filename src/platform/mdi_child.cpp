@@ -40,7 +40,8 @@ MdiChild::MdiChild() {
         QMetaObject::invokeMethod(
             this,
             [this] {
-                if (IsActiveChild()) Activated();
+                // by now it may have ended its life
+                if (IsShown() && IsActiveChild()) Activated();
             },
             Qt::QueuedConnection);
     });

@@ -74,6 +74,7 @@ Changes Evaluate(const Snapshot& state) {
     if (state.browserOpen) set.Set(true, {"Menu_Window_MaximizeAll", "Menu_Window_MinimizeAll"});
 
     SetCodeCommands(set, state.codeWindowOpen);
+    set.SetButtons(state.codeWindowOpen && state.hasSelection, {5, 6});
     if (state.codeWindowOpen) {
         set.Set(state.undoTouched, {"Menu_Edit_Undo", "Menu_Edit_Redo"});
         set.SetButtons(state.undoTouched, {10, 11});
@@ -81,7 +82,6 @@ Changes Evaluate(const Snapshot& state) {
         set.Set(state.hasSelection,
                 {"Menu_Edit_Cut", "Menu_Edit_Copy", "Menu_Edit_Delete", "Menu_Edit_EditString",
                  "Menu_Edit_ChangeDigitSystem", "Menu_Edit_CalculateText"});
-        set.SetButtons(state.hasSelection, {5, 6});
     }
     return set.Take();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How the program goes down.
 #include "documents/document_commands.h"
+#include "documents/recovery.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/literals.h"
@@ -11,12 +12,17 @@
 #include <QCloseEvent>
 
 void Frm_Main::closeEvent(QCloseEvent* event) {
-    event->accept();
-    Exit();
+    if (m_loading) { // the load runs on to its end, unseen
+        m_closeWanted = true;
+        hide();
+        event->ignore();
+        return;
+    }
+    event->setAccepted(Exit());
 }
 
-void Frm_Main::Exit() {
-    if (m_ending) return;
+bool Frm_Main::Exit() {
+    if (m_ending) return true;
     m_ending = true;
     for (const QString& tool : {u"Frm_Color"_s, u"Frm_KCC"_s, u"Frm_TagTools"_s})
         Neighbours::UnloadWindow(tool);
@@ -28,8 +34,19 @@ void Frm_Main::Exit() {
         if (answer == Dialogs::Answer::Yes) {
             Documents::Menu_File_Save_Click();
             write = Global::SaveSucceeded;
-            // There is no way back, but the text that could not be saved can be had back at the next start.
-            if (!write) Documents::WriteRecoveryFile();
+            // A save that fails does not hold the program back: the text can be had back at the next start.
+            // Only a text of which not even that copy can be written keeps it open.
+            if (!write && !Recovery::Write()) {
+                Dialogs::Tell(u"Beenden"_s,
+                              u"Auch eine Sicherungskopie des Textes kann nicht geschrieben werden. Das "
+                              u"Programm bleibt "
+                              u"geöffnet, damit der Text nicht verloren geht."_s,
+                              Dialogs::Icon::Exclamation);
+                m_ending = false;
+                return false;
+            }
+        } else {
+            Recovery::Settle();
         }
     }
     if (write) Settings::WriteSettings();
@@ -40,4 +57,5 @@ void Frm_Main::Exit() {
         Files::Remove(Files::ProgramDirectory() + u'\\' + name);
     }
     Program::End();
+    return true;
 }

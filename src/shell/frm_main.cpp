@@ -62,12 +62,17 @@ void Frm_Main::WireNeighbours() {
     SetWorkProgress.AnsweredBy([this](int percent) { m_statusBar->SetWorkProgress(percent); });
     Neighbours::StartBrowser.AnsweredBy([this] { StartBrowser(); });
     Neighbours::StartWAPBrowser.AnsweredBy([this] { StartWAPBrowser(); });
-    TheCodeBox.AnsweredBy([]() -> CodeBox* { return Shared<Frm_Code>().TextBox; });
-    FocusCode.AnsweredBy([] {
+    const auto codeMayShow = [] { return Loaded<Frm_Code>() || Global::HasTextDocument(); };
+    TheCodeBox.AnsweredBy([=]() -> CodeBox* { return codeMayShow() ? Shared<Frm_Code>().TextBox : nullptr; });
+    OpenCodeBox.AnsweredBy([]() -> CodeBox* { return Shared<Frm_Code>().TextBox; });
+    FocusCode.AnsweredBy([=] {
+        if (!codeMayShow()) return;
         Shared<Frm_Code>().BringToFront();
         Shared<Frm_Code>().TextBox->SetFocus();
     });
-    ShowCodeWindow.AnsweredBy([] { Shared<Frm_Code>().BringToFront(); });
+    ShowCodeWindow.AnsweredBy([=] {
+        if (codeMayShow()) Shared<Frm_Code>().BringToFront();
+    });
     Neighbours::ScriptBarShown.AnsweredBy(
         [] { return Loaded<Frm_Code>() && Shared<Frm_Code>().CodeTop() > 0; });
     CheckOnce.AnsweredBy([] {
@@ -80,10 +85,10 @@ void Frm_Main::WireNeighbours() {
 
 void Frm_Main::ActivateFunktions() {
     Activation::Snapshot state;
-    state.hasFile = !Global::CurrentFile.isEmpty();
+    state.hasFile = !Global::CurrentFile.isEmpty() && !Global::OpenFailed;
     state.projectWindowOpen = Global::ProjectWindowOpen;
     state.browserOpen = Global::BrowserOpen;
-    state.docOpen = Global::DocOpen;
+    state.docOpen = Global::HasDocument();
     state.codeWindowOpen = Global::CodeWindowOpen;
     state.undoTouched = !Undo::UndoTouched.isEmpty();
     const bool loaded = Loaded<Frm_Code>() && Global::CodeWindowOpen;

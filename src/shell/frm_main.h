@@ -46,8 +46,8 @@ public:
     QMdiArea* Area() const { return m_area; }
 
     // The end of the program: asks about unsaved text, writes the settings, removes the scratch files. There
-    // is no way back from here.
-    void Exit();
+    // is no way back from here, but for a text that can be written nowhere. Returns whether the program ends.
+    bool Exit();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -70,6 +70,8 @@ private:
     StatusBar* m_statusBar;
     QMdiArea* m_area;
     QRect m_wantedPlace; // pixels, with the frame, whose share is known only once the window is shown
+    bool m_loading = false;
+    bool m_closeWanted = false; // while it was loading
     bool m_ending = false;
 };
 
@@ -83,6 +85,9 @@ QString CheckInstallation();
 // The file that a whole command line names: without double quotes at both ends, full, in the program's form.
 // Empty for an empty line.
 QString FileArgument(const QString& commandLine);
+// `place` (pixels, outer) made to lie whole on one of the `screens` (the first one is the main screen), and
+// not too small to be used.
+QRect FittedToScreen(QRect place, const QList<QRect>& screens);
 // Makes the system's clipboard the program's.
 void ConnectClipboard();
 // Ends the program at once, without the exit sequence.

@@ -23,10 +23,15 @@ void Reset() {
                           &FTP_Address, &FTP_UserName, &KnownTagString, &NoCloseTagString, &WordChangeList}) {
         text->clear();
     }
-    for (bool* flag :
-         {&DocOpen, &DocChanged, &SaveSucceeded, &CloseSucceeded, &PicturePreview, &SkipUndoOnChange,
-          &AutoDebug, &AutoProjectManager, &AutoMaximize, &AutoPreView, &ShowDebugReport, &ListLinkErrors,
-          &UseWindowsMenu, &ShowExternLinks, &DontShowNewUpdate, &StartPending, &AutoScan, &SkinFileExists}) {
+    for (bool* flag : {&DocOpen,           &DocChanged,         &SaveSucceeded,      &CloseSucceeded,
+                       &PicturePreview,    &OpenFailed,         &SettingsRead,       &SkipUndoOnChange,
+                       &AutoDebug,         &AutoProjectManager, &AutoMaximize,       &AutoPreView,
+                       &ShowDebugReport,   &ListLinkErrors,     &UseWindowsMenu,     &ShowExternLinks,
+                       &DontShowNewUpdate, &StartPending,       &AutoScan,           &SkinFileExists,
+                       &CodeWindowOpen,    &BrowserOpen,        &DebuggerOpen,       &AssistantOpen,
+                       &ProjectWindowOpen, &TagToolOpen,        &KCCToolOpen,        &ColorToolOpen,
+                       &EventToolOpen,     &CharactersToolOpen, &FormatSubClassOpen, &NavigationBarOpen,
+                       &ClipWindowOpen,    &LineZoomOpen}) {
         *flag = false;
     }
     DebugAccuracy = MaxLinkDeep = CurrentTip = FirstStart = 0;

@@ -28,6 +28,7 @@ inline QString TextAfterSelection;
 inline QString DialogFile; // path last chosen in a file dialog by import and the tools
 inline QString LastFile;   // path last saved
 inline bool PicturePreview = false;
+inline bool OpenFailed = false; // CurrentFile names a file that could not be read; nobody holds a text of it
 inline CodePage::Format DocumentFormat; // how the document stands on disk
 inline bool SkipUndoOnChange = false;   // the coming change is the undo's own
 
@@ -83,6 +84,7 @@ inline ToolPos LineZoomPos;
 inline bool StartPending = false;
 inline std::int16_t FirstStart = 0; // not zero when this run had to create the settings file
 inline bool SkinFileExists = false;
+inline bool SettingsRead = false; // edit.ini has been read or made; until then nothing is written over it
 
 // Lists, read-only once the start has loaded them.
 inline QString KnownTagString;
@@ -90,6 +92,12 @@ inline QString NoCloseTagString;
 inline QString WordChangeList;
 inline std::array<QString, 101> EventNameList; // element 0: the count as text
 inline std::array<QString, 101> TipList;       // element 0: the count as text
+
+// Whether a document is open that may be saved: not so behind a failed opening.
+inline bool HasDocument() { return DocOpen && !OpenFailed; }
+// The document window comes only for a text document that is open: not for a picture, nor for a file that
+// could not be read, nor when there is none.
+inline bool HasTextDocument() { return HasDocument() && !PicturePreview; }
 
 // Handles window events until `seconds` have passed.
 void Wait(double seconds);

@@ -4,6 +4,7 @@
 #include "documents/document_commands.h"
 #include "documents/frm_code.h"
 #include "documents/new_documents.h"
+#include "documents/recovery.h"
 #include "documents/undo.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
@@ -17,7 +18,9 @@
 #include "shell/global.h"
 #include "shell/neighbours.h"
 
+#include <QFileInfo>
 #include <QHash>
+#include <QProcess>
 
 namespace {
 
@@ -82,11 +85,11 @@ void Menu_View_ShowJavaScriptBar() {
     Neighbours::ActivateFunktions();
 }
 
-void Menu_File_RestoreFile() {
-    if (!Documents::AskToSave(u"Datei öffnen"_s, Documents::SaveFirst::MustSucceed)) return;
-    Documents::CreateNewTextFile();
-    Documents::LoadRecoveryFile();
-    Global::DocChanged = true;
+// A program, not an address: the desktop would look for something to open it with.
+void Menu_Tools_Tramlink() {
+    const QString program = Files::ToSystem(Files::ProgramFile(u"Tramlink.exe"_s));
+    if (QProcess::startDetached(program, {}, QFileInfo(program).absolutePath())) return;
+    Dialogs::Tell(u"Fehler"_s, u"Tramlink konnte nicht gestartet werden."_s, Dialogs::Icon::Critical);
 }
 
 void OpenAddress(const QString& address) { Dialogs::OpenAddress(address); }
@@ -107,7 +110,7 @@ void AddDocumentHandlers(Handlers& handlers) {
                      {u"Menu_File_Save"_s, Menu_File_Save_Click},
                      {u"Menu_File_SaveAs"_s, Menu_File_SaveAs},
                      {u"Menu_File_SaveBackUp"_s, SaveBackUp},
-                     {u"Menu_File_RestoreFile"_s, Menu_File_RestoreFile}});
+                     {u"Menu_File_RestoreFile"_s, Recovery::Menu_File_RestoreFile}});
 }
 
 void AddEditHandlers(Handlers& handlers) {
@@ -178,8 +181,7 @@ void AddViewHandlers(Handlers& handlers) {
                      {u"Menu_Debug_JavaScript"_s, [] { Flip(u"Menu_Debug_JavaScript"_s); }},
                      {u"Menu_Tools_Option_2"_s, Menu_Tools_Option},
                      {u"Menu_Tools_AutoUml"_s, Menu_Tools_AutoUml},
-                     {u"Menu_Tools_Tramlink"_s,
-                      [] { OpenAddress(Files::ToSystem(Files::ProgramFile(u"Tramlink.exe"_s))); }}});
+                     {u"Menu_Tools_Tramlink"_s, Menu_Tools_Tramlink}});
 }
 
 } // namespace

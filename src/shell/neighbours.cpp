@@ -6,8 +6,8 @@ namespace Neighbours {
 void Reset() {
     const auto unwire = [](auto&... calls) { (calls.AnsweredBy({}), ...); };
     unwire(ReadMainPlace, MainSize, AttachToCode, ActivateFunktions, SetMainCaption, SetStatusPanel,
-           AddMenuAttribute, UnloadMenuAttributes, ShowPleaseWait, SetWorkProgress, TheCodeBox, FocusCode,
-           ShowCodeWindow, ScriptBarShown, ActivateToolBar, HidePopupList, CheckOnce, OpenAutoWord,
+           AddMenuAttribute, UnloadMenuAttributes, ShowPleaseWait, SetWorkProgress, TheCodeBox, OpenCodeBox,
+           FocusCode, ShowCodeWindow, ScriptBarShown, ActivateToolBar, HidePopupList, CheckOnce, OpenAutoWord,
            InsertCurrentVariable, WatchTagForAssistant, SubstituteUmlauts, CodeKeyDown, CodeKeyUp,
            CodeMouseDown, CodeMouseMove, CodeLostFocus, RunAnimation, ShowAssistant, AssistantWidth,
            LayoutAssistant, CheckSyntax, ShowDebugger, DebuggerHeight, LayoutDebugger, ShowProjectManager,

@@ -60,10 +60,13 @@ inline Neighbour<void(int, int)> PopupCodeMenu; // Menu_Code at a place of the s
 inline Neighbour<void(bool)> ShowPleaseWait;    // the busy picture
 inline Neighbour<void(int)> SetWorkProgress;    // percent of Prb_Work; below 0 hides it
 
-// The code box of the one document window, which is loaded by this call if needed. Answered by Frm_Code.
+// The code box of the one document window, which is loaded by this call if needed; nothing while no text
+// document is open (Global::HasTextDocument). Answered by Frm_Code.
 inline Neighbour<CodeBox*()> TheCodeBox;
-inline Neighbour<void()> FocusCode;       // brings Frm_Code to the front, focus in the code box
-inline Neighbour<void()> ShowCodeWindow;  // brings Frm_Code to the front
+// The same for the routines that are about to open or create a text document: it always comes.
+inline Neighbour<CodeBox*()> OpenCodeBox;
+inline Neighbour<void()> FocusCode; // brings Frm_Code to the front, focus in the code box; without text: no
+inline Neighbour<void()> ShowCodeWindow;  // brings Frm_Code to the front; without a text document nothing
 inline Neighbour<bool()> ScriptBarShown;  // whether the script bar of a loaded Frm_Code is uncovered
 inline Neighbour<void()> ActivateToolBar; // of Frm_Code
 inline Neighbour<void()> CheckOnce; // runs the check, if the debugger is shown, once per change of the text

@@ -10,6 +10,7 @@
 #include "shell/neighbours.h"
 
 #include <initializer_list>
+#include <optional>
 
 namespace Settings {
 
@@ -28,6 +29,14 @@ struct ToolKeys {
     Global::ToolPos* place;
     int stored; // 2: left and top; 4: width and height as well
 };
+
+// In Windows-1252, or in UTF-8 where the file says so by its mark.
+std::optional<QString> ReadText() {
+    const auto bytes = Files::Read(ReadPath());
+    if (!bytes) return std::nullopt;
+    const CodePage::Decoded decoded = CodePage::Decode(*bytes);
+    return decoded.format.mark ? decoded.text : CodePage::FromWindows1252(*bytes);
+}
 
 // In the order of the file.
 const std::initializer_list<ToolKeys>& Tools() {
@@ -62,6 +71,7 @@ void InstallDefaults() {
     Global::MaxLinkDeep = 1;
     Global::DebugAccuracy = 100;
     Global::FirstStart = 2;
+    Global::SettingsRead = true;
     for (const ToolKeys& tool : Tools()) {
         (*tool.place)[1] = (*tool.place)[2] = u"600"_s;
         if (tool.stored == 4) (*tool.place)[3] = (*tool.place)[4] = QString();
@@ -153,7 +163,7 @@ QString EncodeLineBreaks(QString text) { return text.replace(u"\r\n"_s, BreakMar
 QString DecodeLineBreaks(QString text) { return text.replace(BreakMarker, u"\r\n"_s); }
 
 QString GetSetting(const QString& key, const QString& preset) {
-    const auto text = Files::ReadProgramText(ReadPath());
+    const auto text = ReadText();
     if (!text) {
         InstallDefaults();
         return {};
@@ -170,6 +180,7 @@ QString GetSetting(const QString& key, const QString& preset) {
 QString GetSetting(const QString& key, int preset) { return GetSetting(key, QString::number(preset)); }
 
 bool WriteSettings() {
+    if (!Global::SettingsRead) return false;
     Writer file;
     file.Comment(u"Sorvane HTML Editor 3.0 - options");
     file.Value(u"UpDate", BuildDate);
@@ -178,7 +189,10 @@ bool WriteSettings() {
     WriteMainWindow(file);
     WriteGeneral(file);
     WriteTools(file);
-    return Files::Write(FilePath(), CodePage::ToWindows1252(file.Text()));
+    CodePage::Format format;
+    if (!CodePage::FitsWindows1252(file.Text())) format = {CodePage::Encoding::Utf8, true};
+    return Files::Write(FilePath(), format.mark ? CodePage::Encode(file.Text(), format)
+                                                : CodePage::ToWindows1252(file.Text()));
 }
 
 void LoadSettings() {
@@ -233,6 +247,7 @@ void LoadSettings() {
     Global::WorkScreenSkin = read(u"WorkScreenSkin"_s);
     // The last file is not needed before the start dialog, but an exit without a save must not lose it.
     Global::LastFile = read(u"LastFile"_s);
+    Global::SettingsRead = true;
 }
 
 } // namespace Settings

@@ -15,8 +15,9 @@ inline const QString UpdateNumber = QStringLiteral("14.6");
 QString GetSetting(const QString& key, const QString& preset);
 QString GetSetting(const QString& key, int preset);
 
-// Writes the shared state to the file, replacing it. A failed write loses the settings of this run; returns
-// whether it worked.
+// Writes the shared state to the file, replacing it: in Windows-1252, or in UTF-8 with a mark as soon as a
+// value needs it. Settings are written only after they have been read: before, nothing happens. A failed
+// write loses the settings of this run; returns whether it worked.
 bool WriteSettings();
 
 // Copies all keys of the file into the shared state. A value that cannot be read leaves what was there.

@@ -2,6 +2,7 @@
 // How the program comes up.
 #include "documents/document_commands.h"
 #include "documents/paths.h"
+#include "documents/recovery.h"
 #include "documents/undo.h"
 #include "editing/lists.h"
 #include "platform/clipboard.h"
@@ -130,6 +131,23 @@ void Frm_Main::EndOnBrokenFile(const QString& fileName) {
     throw Program::StartEnded();
 }
 
+// A window from a larger or second screen comes back where it can be seen and used: whole on the screen that
+// shows most of it, on the first one where none does.
+QRect Program::FittedToScreen(QRect place, const QList<QRect>& screens) {
+    QRect screen = screens.constFirst();
+    const auto shown = [&](const QRect& one) {
+        const QRect part = one.intersected(place);
+        return part.isEmpty() ? 0 : qint64(part.width()) * part.height();
+    };
+    for (const QRect& one : screens) {
+        if (shown(one) > shown(screen)) screen = one;
+    }
+    place.setSize(place.size().expandedTo({480, 360}).boundedTo(screen.size()));
+    place.moveLeft(std::clamp(place.left(), screen.left(), screen.right() + 1 - place.width()));
+    place.moveTop(std::clamp(place.top(), screen.top(), screen.bottom() + 1 - place.height()));
+    return place;
+}
+
 void Frm_Main::RestorePlace() {
     const auto number = [](const QString& key, int preset) {
         double value = preset;
@@ -137,14 +155,9 @@ void Frm_Main::RestorePlace() {
         return Twips::ToPixels(value);
     };
     QRect place(number(u"Left"_s, 0), number(u"Top"_s, 0), number(u"Width"_s, 640), number(u"Height"_s, 480));
-    // A window from a larger or second screen comes back where it can be seen and used.
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    place.setSize(place.size().expandedTo({480, 360}));
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    const bool visible = std::any_of(screens.begin(), screens.end(), [&](const QScreen* one) {
-        return one->availableGeometry().intersects(place);
-    });
-    if (!visible) place.moveTopLeft(screen.topLeft());
+    QList<QRect> screens{QGuiApplication::primaryScreen()->availableGeometry()};
+    for (const QScreen* screen : QGuiApplication::screens()) screens.append(screen->availableGeometry());
+    place = Program::FittedToScreen(place, screens);
     move(place.topLeft());
     resize(place.size());
     m_wantedPlace = place;
@@ -160,6 +173,8 @@ void Frm_Main::RestorePlace() {
     }
     if (state == 2) setWindowState(Qt::WindowMaximized);
     if (state == 1) setWindowState(Qt::WindowMinimized);
+    // a window that starts otherwise has its place from the window manager when it comes back from the icon
+    if (state == 1 || state == 2) m_wantedPlace = {};
 }
 
 void Frm_Main::OnLoad() {
@@ -167,6 +182,7 @@ void Frm_Main::OnLoad() {
         Commands::SetChecked(u"Menu_Help_Assistant"_s,
                              Numbers::ReadBoolean(Settings::GetSetting(u"Assistant"_s, QString())));
     });
+    m_loading = true;
     setEnabled(false);
     RestorePlace();
     show();
@@ -205,11 +221,16 @@ void Frm_Main::OnLoad() {
     if (!Tips::LoadTips()) EndOnBrokenFile(u"tips.lst"_s);
     if (Commands::IsChecked(u"Menu_Help_Assistant"_s)) Neighbours::ShowAssistant(true);
     status(u"Aktiviere Funktionen..."_s);
-    Commands::SetVisible(u"Menu_File_RestoreFile"_s, Documents::RecoveryFileExists());
+    Commands::SetVisible(u"Menu_File_RestoreFile"_s, Recovery::Exists());
     ActivateFunktions();
     status(u"Lade Editor..."_s);
     Unload<Frm_Load>();
     setEnabled(true);
+    m_loading = false;
+    if (m_closeWanted) {
+        Exit();
+        return;
+    }
     // the dialogs of StartWork want a running event loop
     QTimer::singleShot(0, this, [this] { StartWork(); });
 }

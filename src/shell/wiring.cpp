@@ -42,7 +42,7 @@ struct WindowEntry {
 
 const QHash<QString, WindowEntry>& Windows() {
     static const QHash<QString, WindowEntry> windows{
-        {u"Frm_Code"_s, {[] { Unload<Frm_Code>(); }, [] { Shared<Frm_Code>().BringToFront(); }}},
+        {u"Frm_Code"_s, {[] { Unload<Frm_Code>(); }, [] { Neighbours::ShowCodeWindow(); }}},
         {u"Frm_Welcome"_s, {[] { Unload<Frm_Welcome>(); }, [] { ShowModal<Frm_Welcome>(); }}},
         {u"Frm_Info"_s, {[] { Unload<Frm_Info>(); }, [] { ShowModal<Frm_Info>(); }}},
         {u"Frm_Options"_s, {[] { Unload<Frm_Options>(); }, [] { ShowModal<Frm_Options>(); }}},

@@ -32,6 +32,7 @@ private slots:
         m_folder = std::make_unique<ProgramFolder>();
         QVERIFY(Lists::LoadTagList() && Lists::LoadNoCloseTags());
         Neighbours::TheCodeBox.AnsweredBy([this] { return &m_box; });
+        Global::CodeWindowOpen = true;
         Undo::UndoClear();
     }
     void cleanup() { m_folder.reset(); }

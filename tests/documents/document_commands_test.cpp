@@ -2,6 +2,7 @@
 #include "documents/document_commands.h"
 
 #include "documents/document_file.h"
+#include "documents/recovery.h"
 #include "documents/text_buffer.h"
 #include "documents/undo.h"
 #include "editing/lists.h"
@@ -33,6 +34,11 @@ class DocumentCommands : public QObject {
     const QString Unsaved =
         QStringLiteral("Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?");
 
+    void Type(const QString& text) {
+        Global::CodeWindowOpen = true;
+        m_box->SetText(text);
+    }
+
 private slots:
     void init() {
         m_folder = std::make_unique<ProgramFolder>();
@@ -44,9 +50,13 @@ private slots:
         };
         m_panels.clear();
         m_calls.clear();
-        Neighbours::TheCodeBox.AnsweredBy([this] {
+        Neighbours::OpenCodeBox.AnsweredBy([this] {
             Global::CodeWindowOpen = true;
             return m_box.get();
+        });
+        Neighbours::TheCodeBox.AnsweredBy([this] {
+            Global::CodeWindowOpen = Global::CodeWindowOpen || Global::HasTextDocument();
+            return Global::CodeWindowOpen ? m_box.get() : nullptr;
         });
         Neighbours::UnloadWindow.AnsweredBy([this](const QString& name) {
             if (name != u"Frm_Code" || !Global::CodeWindowOpen) return;
@@ -117,8 +127,11 @@ private slots:
         row("CR LF", "a\r\nb\r\n", "a\r\nb\r\n");
         row("LF", "a\nb\n", "a\nb\n");
         row("no final line end", "a\r\nb", "a\r\nb\r\n");
-        row("several at the end lose one", "a\r\n\r\n\r\n", "a\r\n\r\n");
+        row("empty line at the end", "a\r\n\r\n", "a\r\n\r\n");
+        row("several at the end lose one", "a\r\n\r\n\r\n\r\n", "a\r\n\r\n\r\n");
         row("last line of blanks", "a\r\n \t ", "a\r\n");
+        row("last line of blanks goes alone", "a\r\n\r\n ", "a\r\n\r\n");
+        row("UTF-16", QByteArray("\xFE\xFF\0a\0\r\0\n", 8), QByteArray("\xFE\xFF\0a\0\r\0\n", 8));
         row("no-break space at the end stays", "a\r\n\xA0", "a\r\n\xA0\r\n");
         row("umlauts", "\xE4\xF6\r\n", "\xE4\xF6\r\n");
         row("UTF-8", "\xC3\xA4\xF0\x9F\x98\x80\n", "\xC3\xA4\xF0\x9F\x98\x80\n");
@@ -177,8 +190,15 @@ private slots:
         QCOMPARE(m_panels.value(1), u"Bild"_s);
         QVERIFY(Global::PicturePreview && !Global::CodeWindowOpen && Global::DocOpen);
         QCOMPARE(m_calls, QStringList{u"browse"_s});
-        Menu_File_Save_Click();
-        QCOMPARE(m_folder->Read(u"X.GIF"_s), picture + "\r\n"); // every byte but the line end behind it
+        // every byte but the line end behind it, however often and whatever the options
+        Commands::SetChecked(u"Menu_Tools_Option_2"_s, true);
+        for (int times = 0; times < 3; ++times) Menu_File_Save_Click();
+        QCOMPARE(m_folder->Read(u"X.GIF"_s), picture + "\r\n");
+        const QByteArray endsLikeText = "GIF<B>\n\r\n\r\n \0";
+        OpenFile(m_folder->Write(u"y.gif"_s, endsLikeText));
+        for (int times = 0; times < 3; ++times) Menu_File_Save_Click();
+        QCOMPARE(m_folder->Read(u"y.gif"_s), endsLikeText + "\r\n");
+        QVERIFY(!Neighbours::TheCodeBox()); // no window for the bytes of a picture
     }
 
     void previewsPagesOnly() {
@@ -205,19 +225,21 @@ private slots:
             "Datei wird als Text geöffnet."_s));
     }
 
-    void keepsTheOldTextWhenLoadingFails_data() {
+    // The name stays, but no text goes under it: neither nothing nor that of the page before.
+    void writesNothingBehindAFailedOpening_data() {
         QTest::addColumn<QString>("name");
         QTest::newRow("missing") << u"fehlt.htm"_s;
         QTest::newRow("folder") << u"ordner"_s;
         QTest::newRow("missing folder") << u"weg/a.htm"_s;
         QTest::newRow("missing picture") << u"fehlt.gif"_s;
     }
-    void keepsTheOldTextWhenLoadingFails() {
+    void writesNothingBehindAFailedOpening() {
         QFETCH(QString, name);
         m_folder->Write(u"ordner/x"_s, "x");
         OpenFile(m_folder->Write(u"alt.htm"_s, "alter Text\r\n"));
         m_box->SetSelText(u"mein "_s);
         const QString caption = m_caption;
+        const QStringList before = QDir(m_folder->System(u"."_s)).entryList(QDir::AllEntries);
         ScriptedDialogs dialogs;
         dialogs.ExpectMessage(
             u"Fehler"_s,
@@ -226,9 +248,16 @@ private slots:
             Answer::Ok, Dialogs::Icon::Critical);
         OpenFile(m_folder->Path(name));
         QCOMPARE(Global::CurrentFile, m_folder->Path(name));
-        QCOMPARE(Global::HeldSource, u"mein alter Text\r\n"_s);
-        QVERIFY(!Global::CodeWindowOpen && Global::DocOpen && Global::DocChanged);
+        QVERIFY(!Global::CodeWindowOpen && Global::DocOpen && !Global::DocChanged);
         QCOMPARE(m_caption, caption);
+        Menu_File_Save_Click();
+        Menu_File_SaveAs();
+        SaveBackUp();
+        QVERIFY(!Neighbours::TheCodeBox() && !Global::SaveSucceeded);
+        QCOMPARE(QDir(m_folder->System(u"."_s)).entryList(QDir::AllEntries), before);
+        QCOMPARE(m_folder->Read(u"alt.htm"_s), QByteArray("alter Text\r\n"));
+        OpenFile(m_folder->Path(u"alt.htm"_s));
+        QVERIFY(Neighbours::TheCodeBox() && Global::HasTextDocument());
     }
 
     void asksBeforeTextIsLost_data() {
@@ -249,7 +278,7 @@ private slots:
         const QString other = m_folder->Write(u"b.htm"_s, "anderer");
         for (const bool dropped : {true, false}) {
             Global::CurrentFile.clear();
-            m_box->SetText(u"wertvoll"_s);
+            Type(u"wertvoll"_s);
             QFile::remove(m_folder->System(u"neu.htm"_s));
             ScriptedDialogs dialogs;
             dialogs.ExpectMessage(dropped ? u"Schließen"_s : u"Datei öffnen"_s, Unsaved, Answer(answer),
@@ -265,13 +294,16 @@ private slots:
                 QCOMPARE(m_box->Text(), u"wertvoll"_s); // the file dialog was cancelled
             }
             QVERIFY(dialogs.Finished());
+            // a text that is given up although it was to be saved leaves a copy
+            QCOMPARE(m_folder->Has(u"bckup.tmp"_s),
+                     Answer(answer) == Answer::Yes && savePath.isEmpty() && !dropped);
             if (!savePath.isEmpty()) QCOMPARE(m_folder->Read(savePath), QByteArray("wertvoll\r\n"));
         }
     }
 
     void asksBeforeOverwriting() {
         m_folder->Write(u"da.htm"_s, "alt");
-        m_box->SetText(u"neu"_s);
+        Type(u"neu"_s);
         const QString question =
             u"Eine Datei mit diesem Namen existiert bereits.\rSoll sie überschrieben werden?"_s;
         {
@@ -292,7 +324,7 @@ private slots:
     }
 
     void tellsAFailedSave() {
-        m_box->SetText(u"wertvoll"_s);
+        Type(u"wertvoll"_s);
         Global::CurrentFile = m_folder->Path(u"weg\\a.htm"_s);
         ScriptedDialogs dialogs;
         dialogs.ExpectMessage(
@@ -305,7 +337,7 @@ private slots:
     }
 
     void importsAtTheCaret() {
-        m_box->SetText(u"<p></p>"_s);
+        Type(u"<p></p>"_s);
         m_box->SetSelStart(3);
         const QString path = m_folder->Write(u"text.txt"_s, "eins\nzw\xF6lf");
         {
@@ -340,14 +372,40 @@ private slots:
     }
 
     void bringsBackTheRecoveryCopy() {
-        QVERIFY(!RecoveryFileExists());
-        m_box->SetText(u"Łódź\r\nist weg"_s);
-        Global::CodeWindowOpen = true;
-        WriteRecoveryFile();
-        m_box->SetText({});
-        QVERIFY(RecoveryFileExists());
-        LoadRecoveryFile();
-        QCOMPARE(m_box->Text(), u"Łódź\r\nist weg\r\n"_s);
+        const auto offered = [] { return Commands::StateOf(u"Menu_File_RestoreFile"_s).visible; };
+        Type(u"-//W3C//DTD XHTML\r\nŁódź"_s);
+        QVERIFY(!Recovery::Exists() && Recovery::Write() && offered());
+        ForgetText();
+        {
+            ScriptedDialogs dialogs; // neither answer to the text that is open takes the copy away
+            Type(u"anderer"_s);
+            dialogs.ExpectMessage(u"Datei öffnen"_s, Unsaved, Answer::Cancel);
+            Recovery::Menu_File_RestoreFile();
+            QCOMPARE(m_box->Text(), u"anderer"_s);
+            dialogs.ExpectMessage(u"Datei öffnen"_s, Unsaved, Answer::No);
+            Recovery::Menu_File_RestoreFile();
+        }
+        QCOMPARE(m_box->Text(), u"-//W3C//DTD XHTML\r\nŁódź\r\n"_s);
+        QCOMPARE(Global::DocType, u"XHTML"_s);
+        QVERIFY(Global::DocChanged && Recovery::Exists());
+        ScriptedDialogs dialogs;
+        dialogs.ExpectSaveFile(u"Speichern unter"_s, m_folder->Path(u"neu.htm"_s));
+        Menu_File_Save_Click(); // now its text is safe
+        QVERIFY(!Recovery::Exists() && !offered());
+    }
+
+    void dropsTheRecoveryCopyThatIsDeclined() {
+        Type(u"x"_s);
+        QVERIFY(Recovery::Write());
+        ScriptedDialogs dialogs;
+        dialogs.ExpectMessage(u"Schließen"_s, Unsaved, Answer::No);
+        Menu_File_Close();
+        QVERIFY(!Recovery::Exists());
+        m_folder->Write(u"bckup.tmp"_s, "von gestern");
+        Type(u"y"_s);
+        dialogs.ExpectMessage(u"Schließen"_s, Unsaved, Answer::No);
+        Menu_File_Close();
+        QVERIFY(Recovery::Exists()); // the copy of another text has not been asked about
     }
 
     void backsUpAnUnnamedDocument() {

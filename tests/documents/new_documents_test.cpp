@@ -58,7 +58,7 @@ private slots:
                               CreateNewTextFile};
         TextBuffer box(u"alt"_s);
         box.change = [] { Global::DocChanged = true; };
-        Neighbours::TheCodeBox.AnsweredBy([&] { return &box; });
+        Neighbours::OpenCodeBox.AnsweredBy([&] { return &box; });
         QHash<int, QString> panels;
         QString shownCaption;
         QStringList gone;
@@ -89,7 +89,7 @@ private slots:
     void asksBeforeReplacing() {
         const ProgramFolder folder(ProgramFolder::Content::Empty);
         TextBuffer box(u"wertvoll"_s);
-        Neighbours::TheCodeBox.AnsweredBy([&] { return &box; });
+        Neighbours::OpenCodeBox.AnsweredBy([&] { return &box; });
         const QString question =
             u"Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?"_s;
         ScriptedDialogs dialogs;

@@ -37,6 +37,7 @@ private slots:
             }
         };
         Neighbours::TheCodeBox.AnsweredBy([this] { return m_box.get(); });
+        Global::CodeWindowOpen = true;
         Undo::UndoClear();
     }
     void cleanup() { m_folder.reset(); }

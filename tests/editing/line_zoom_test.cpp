@@ -4,6 +4,7 @@
 #include "documents/text_buffer.h"
 #include "documents/undo.h"
 #include "platform/literals.h"
+#include "shell/global.h"
 #include "shell/neighbours.h"
 #include "support/program_folder.h"
 #include "support/test_registry.h"
@@ -63,6 +64,7 @@ private slots:
         Undo::UndoClear();
         TextBuffer box(text);
         Neighbours::TheCodeBox.AnsweredBy([&box] { return &box; });
+        Global::CodeWindowOpen = true;
         box.SetSelStart(caret);
         LineZoom::ReadCurrentLine(box);
         LineZoom::SaveLine(box, written);

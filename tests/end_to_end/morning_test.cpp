@@ -148,7 +148,7 @@ private slots:
             Documents::OpenFile(page);
             Driver::Trigger(u"Menu_File_Save"_s);
             Shared<Frm_Main>().showNormal();
-            Shared<Frm_Main>().setGeometry(40, 50, 900, 650);
+            Shared<Frm_Main>().setGeometry(40, 50, 700, 600);
             QCoreApplication::processEvents();
             place = Shared<Frm_Main>().frameGeometry();
             Shared<Frm_Main>().close();

@@ -52,6 +52,13 @@ private slots:
         row("lone CR", "a\rb\nc", false, false, false, u"Windows-1252"_s);
         row("binary", QByteArray("\x00\x01\x02\xFF", 4), false, false, false, u"Windows-1252"_s);
         row("empty", QByteArray(), false, false, false, u"Windows-1252"_s);
+        row("UTF-16, low byte first", QByteArray("\xFF\xFE\xFC\0\xAC\x20\r\0\n\0\0\xD8", 12), false, false,
+            false,
+            u"UTF-16 LE"_s); // with half a pair at its end
+        row("UTF-16, high byte first", QByteArray("\xFE\xFF\0\xFC\0\n", 6), false, false, true,
+            u"UTF-16 BE LF"_s);
+        row("mark of UTF-16 and an odd byte", QByteArray("\xFF\xFE\xFC", 3), false, false, false,
+            u"Windows-1252"_s);
     }
     void tellsEncodings() {
         QFETCH(QByteArray, bytes);
@@ -74,6 +81,13 @@ private slots:
         QCOMPARE(CodePage::Encode(u"Łódź €"_s, format), QByteArray("\xC5\x81\xC3\xB3"
                                                                    "d\xC5\xBA \xE2\x82\xAC"));
         QVERIFY(format.encoding == Encoding::Utf8 && !format.mark);
+        // bytes that would be read as another encoding than they were written in
+        for (const QString& text : {u"Ã¤"_s, u"\u00EF\u00BB\u00BFa"_s, u"ÿþab"_s, u"þÿab"_s, u"\uFEFFa"_s}) {
+            format = {};
+            const CodePage::Decoded again = CodePage::Decode(CodePage::Encode(text, format));
+            QCOMPARE(again.text, text);
+            QVERIFY(again.format == format && format.encoding == Encoding::Utf8);
+        }
         format = {};
         QCOMPARE(CodePage::Encode(u"ä€"_s, format), QByteArray("\xE4\x80"));
         QVERIFY(format.encoding == Encoding::Windows1252);

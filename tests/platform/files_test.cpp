@@ -3,6 +3,7 @@
 
 #include "platform/literals.h"
 #include "support/program_folder.h"
+#include "support/small_disk.h"
 #include "support/test_registry.h"
 
 #include <QDir>
@@ -70,9 +71,45 @@ private slots:
         Files::Write(folder.Path(u"circle.htm"_s), "x"); // whatever becomes of it, it ends
     }
 
+    // A real file system of 64 KB with a page on it and less room than a new copy of that page takes.
+    void leavesTheOldFileOnAFullDisk_data() {
+        QTest::addColumn<int>("kilobytes");
+        for (const int size : {1, 4, 5, 12, 16, 20}) QTest::addRow("%d KB", size) << size;
+    }
     void leavesTheOldFileOnAFullDisk() {
-        if (!QFileInfo::exists(u"/dev/full"_s)) QSKIP("no full device here");
-        QVERIFY(!Files::Write(u"\\dev\\full"_s, "text"));
+        QFETCH(int, kilobytes);
+        const SmallDisk disk;
+        if (!disk.Mounted()) QSKIP("no file system may be mounted here");
+        const QString page = disk.Path() + u"\\page.htm";
+        const QByteArray old(1024 * kilobytes, 'a');
+        QVERIFY(Files::Write(page, old));
+        QVERIFY(Files::Copy(page, disk.Path() + u"\\copy.htm") &&
+                Files::Read(disk.Path() + u"\\copy.htm") == old);
+        for (const bool beside : {true, false}) { // in place where no second file can be made
+            disk.Fill(old.size() > 4096 ? 4096 : 0);
+            if (!beside) disk.TakeInodes();
+            QVERIFY(!Files::Write(page, QByteArray(1024 * kilobytes + 40'000, 'b')));
+            QCOMPARE(Files::Read(page).value_or(QByteArray()), old);
+            QVERIFY(!Files::Write(disk.Path() + u"\\new.htm", QByteArray(50'000, 'b')));
+            if (!beside) continue;
+            if (old.size() <= 4096) continue; // what is left takes a copy of these
+            QVERIFY(!Files::Write(page, QByteArray(old.size(), 'b')));
+            QCOMPARE(Files::Read(page).value_or(QByteArray()), old);
+        }
+        disk.Empty();
+        QVERIFY(Files::Write(page, QByteArray(1024 * kilobytes, 'b')));
+        QCOMPARE(Files::Read(page).value_or(QByteArray()), QByteArray(1024 * kilobytes, 'b'));
+    }
+
+    void writesNamesAsLongAsTheyMayBe() {
+        const ProgramFolder folder(ProgramFolder::Content::Empty);
+        const QString name = QString(251, u'n') + u".htm"_s;
+        QVERIFY(Files::Write(folder.Path(name), "first version"));
+        QVERIFY(Files::Write(folder.Path(name), "second"));
+        QCOMPARE(folder.Read(name), QByteArray("second"));
+        QVERIFY(Files::Write(folder.Path(name), "the third is longer"));
+        QCOMPARE(folder.Read(name), QByteArray("the third is longer"));
+        QVERIFY(!Files::Write(folder.Path(u'n' + name), "x"));
     }
 
     void findsProgramFiles() {

@@ -32,6 +32,7 @@ private slots:
     void init() {
         m_folder = std::make_unique<ProgramFolder>(ProgramFolder::Content::Empty);
         Neighbours::TheCodeBox.AnsweredBy([this] { return &m_box; });
+        Global::CodeWindowOpen = true;
         Clipboard::Install({});
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     }

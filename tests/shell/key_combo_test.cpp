@@ -59,6 +59,7 @@ private slots:
 
     void textsComeBackAfterARestart() {
         ProgramFolder folder;
+        Settings::LoadSettings();
         const QString lines = u"<ul>\r\n  <li>Ä\u00a0b = c</li>\r\n</ul>"_s;
         Shared<Frm_KeyCombo>();
         for (int key = 0; key <= 9; ++key) Store(key, QString::number(key));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/settings.h"
 
+#include "platform/files.h"
 #include "platform/literals.h"
 #include "shell/commands.h"
 #include "shell/global.h"
@@ -10,10 +11,27 @@
 
 #include <QFile>
 
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
 using namespace Settings;
 
 class SettingsTest : public QObject {
     Q_OBJECT
+
+    // Root may read everything: what is to fail for want of rights runs as somebody else.
+    template<class Action> static void AsNobody([[maybe_unused]] const QString& folder, Action&& action) {
+#ifdef Q_OS_UNIX
+        const bool root = geteuid() == 0;
+        if (root) {
+            QFile::setPermissions(folder, QFileDevice::Permissions(0x7777));
+            QVERIFY(seteuid(65534) == 0);
+        }
+        action();
+        if (root) QVERIFY(seteuid(0) == 0);
+#endif
+    }
 
 private slots:
     void installsTheDefaults() {
@@ -56,10 +74,15 @@ private slots:
 
     void keepsAnUnreadableFile() {
         const ProgramFolder folder(ProgramFolder::Content::Empty);
-        QVERIFY(
-            QFile::link(folder.System(u"edit.ini"_s), folder.System(u"edit.ini"_s))); // can never be opened
-        QCOMPARE(GetSetting(u"Left"_s, 7), QString());
+        folder.Write(u"edit.ini"_s, "Key1=wertvoll\r\n");
+        QFile::setPermissions(folder.System(u"edit.ini"_s), QFileDevice::WriteOwner);
+        QString value;
+        AsNobody(folder.System(u"."_s), [&] { value = GetSetting(u"Left"_s, 7); });
+        QCOMPARE(value, QString());
         QCOMPARE(int(Global::FirstStart), 2);
+        QVERIFY(folder.Read(u"edit.ini"_s).contains("Key1=\r\n"));
+        QFile::setPermissions(folder.System(u"edit.ini.bak"_s), QFileDevice::ReadOwner);
+        QCOMPARE(folder.Read(u"edit.ini.bak"_s), QByteArray("Key1=wertvoll\r\n"));
     }
 
     void scansWithoutStructure_data() {
@@ -117,6 +140,31 @@ private slots:
         QCOMPARE(Global::LastFile, u"\\home\\Gr\u00FCn\\\u20AC.htm"_s);
         QVERIFY(!Global::AutoDebug && !Global::UseWindowsMenu && !Global::ShowDebugReport);
         QVERIFY(Commands::IsChecked(u"Menu_Tools_AutoUml"_s) && !Commands::IsChecked(u"Menu_Debug_CSS"_s));
+    }
+
+    // A start that ends before its settings are read knows nothing of what they hold.
+    void writesOnlyWhatItHasRead() {
+        const ProgramFolder folder(ProgramFolder::Content::Empty);
+        folder.Write(u"edit.ini"_s, "Key1=wertvoll\r\n");
+        QCOMPARE(GetSetting(u"Key1"_s, {}), u"wertvoll"_s);
+        QVERIFY(!WriteSettings());
+        QCOMPARE(folder.Read(u"edit.ini"_s), QByteArray("Key1=wertvoll\r\n"));
+        LoadSettings();
+        QVERIFY(WriteSettings());
+        QVERIFY(folder.Read(u"edit.ini"_s).contains("Key1=wertvoll\r\n"));
+    }
+
+    void turnsToUtf8WhereAValueNeedsIt() {
+        const ProgramFolder folder(ProgramFolder::Content::Empty);
+        GetSetting(u"Assistant"_s, {});
+        Global::LastFile = u"\\home\\Gr\u00FCn.htm"_s;
+        QVERIFY(WriteSettings() && folder.Read(u"edit.ini"_s).contains("Gr\xFCn.htm"));
+        Global::KeyCombos[1] = u"Ł"_s;
+        QVERIFY(WriteSettings() && folder.Read(u"edit.ini"_s).startsWith("\xEF\xBB\xBF//"));
+        Global::Reset();
+        LoadSettings();
+        QCOMPARE(Global::KeyCombos[1], u"Ł"_s);
+        QCOMPARE(Global::LastFile, u"\\home\\Gr\u00FCn.htm"_s);
     }
 
     void passesOverBadValues() {

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+// What is promised about the user's text and files, kept by the real program.
+#include "documents/document_commands.h"
+#include "documents/frm_code.h"
+#include "documents/recovery.h"
+#include "platform/files.h"
+#include "platform/literals.h"
+#include "shell/commands.h"
+#include "shell/frm_main.h"
+#include "shell/global.h"
+#include "shell/neighbours.h"
+#include "shell/status_bar.h"
+#include "shell/wiring.h"
+#include "support/driver.h"
+#include "support/program_folder.h"
+#include "support/scripted_dialogs.h"
+#include "support/small_disk.h"
+#include "support/test_registry.h"
+
+class Promises : public QObject {
+    Q_OBJECT
+
+    static Txt_Code& Box() { return *Shared<Frm_Code>().TextBox; }
+
+    static inline const QByteArray Picture = QByteArray("GIF89a\1\0\1\0\x80\r\0\xFF\n\xFF\0\0\0;", 20);
+    static inline const QString Unsaved =
+        QStringLiteral("Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?");
+
+    std::unique_ptr<ProgramFolder> m_folder;
+    std::unique_ptr<ScriptedDialogs> m_dialogs;
+    std::unique_ptr<Driver::RunningProgram> m_program;
+
+private slots:
+    void init() {
+        m_folder = std::make_unique<ProgramFolder>();
+        m_dialogs = std::make_unique<ScriptedDialogs>();
+        m_program = std::make_unique<Driver::RunningProgram>();
+        Global::AutoDebug = Global::AutoProjectManager = false;
+    }
+    void cleanup() {
+        m_program.reset();
+        m_dialogs.reset();
+        m_folder.reset();
+    }
+
+    void beginsAHistoryWithEachDocument() {
+        const QByteArray shared(2000, 'x');
+        const auto takesNothingBack = [] {
+            const QString text = Box().Text();
+            for (int times = 0; times < 3; ++times) Driver::PressCode(Qt::Key_Z, Qt::ControlModifier);
+            QCOMPARE(Box().Text(), text);
+        };
+        Documents::OpenFile(m_folder->Write(u"a.htm"_s, "<p>erste " + shared));
+        Driver::TypeCode(u"neu"_s);
+        Driver::Trigger(u"Menu_File_Save"_s);
+        Documents::OpenFile(m_folder->Write(u"b.htm"_s, "<p>zweite " + shared));
+        takesNothingBack();
+        Driver::Trigger(u"Menu_File_NewPage"_s);
+        takesNothingBack();
+        Global::DocChanged = false;
+        m_folder->Write(u"bckup.tmp"_s, "<p>dritte " + shared);
+        Recovery::Menu_File_RestoreFile();
+        takesNothingBack();
+    }
+
+    void leavesPicturesAlone() {
+        Documents::OpenFile(m_folder->Write(u"bild.gif"_s, Picture));
+        Driver::Trigger(u"Menu_View_Code"_s);
+        Neighbours::RunTool(u"Frm_Code"_s);
+        for (const QString& button : {u"ToolBar_Cut"_s, u"ToolBar_Copy"_s})
+            QVERIFY(!Driver::IsEnabled(button));
+        QVERIFY(!Loaded<Frm_Code>() && !Neighbours::TheCodeBox() && !Global::DocChanged);
+        Commands::SetChecked(u"Menu_Tools_Option_2"_s, true);
+        Driver::Trigger(u"Menu_File_Save"_s);
+        QVERIFY(!Loaded<Frm_Code>());
+        QCOMPARE(m_folder->Read(u"bild.gif"_s), Picture + "\r\n");
+    }
+
+    void opensNoWindowWithoutADocument() {
+        for (const bool closed : {false, true}) {
+            if (closed) {
+                Documents::OpenFile(m_folder->Write(u"a.htm"_s, "x"));
+                Driver::Trigger(u"Menu_File_Close"_s);
+                QCOMPARE(Shared<Frm_Main>().Status()->Panel(2), u"Bereit"_s);
+                QCOMPARE(Shared<Frm_Main>().Status()->Panel(4), QString());
+            }
+            for (const QString& button : {u"ToolBar_Cut"_s, u"ToolBar_Copy"_s, u"Menu_View_Code"_s})
+                QVERIFY(!Driver::IsEnabled(button));
+            Neighbours::FocusCode();
+            Neighbours::RunTool(u"Frm_Code"_s);
+            QVERIFY(!Loaded<Frm_Code>() && !Neighbours::TheCodeBox() && !Global::DocChanged);
+        }
+    }
+
+    void endsWithoutAQuestionBehindAFailedOpening() {
+        Documents::OpenFile(m_folder->Write(u"a.htm"_s, "alt\r\n"));
+        m_dialogs->ExpectMessage(
+            u"Fehler"_s, u"Fehler beim Laden der Datei. Stellen Sie sicher, dass die Datei existiert und "
+                         "nicht geschützt ist."_s);
+        Documents::OpenFile(m_folder->Path(u"fehlt.htm"_s));
+        for (const QString& command : {u"Menu_File_Save"_s, u"Menu_File_SaveBackUp"_s, u"Menu_View_Code"_s})
+            QVERIFY(!Driver::IsEnabled(command));
+        Shared<Frm_Main>().close();
+        QVERIFY(!m_folder->Has(u"fehlt.htm"_s));
+        QCOMPARE(m_folder->Read(u"a.htm"_s), QByteArray("alt\r\n"));
+    }
+
+    void savesWithoutOpeningTheClosedWindow() {
+        Global::AutoPreView = true;
+        Documents::OpenFile(m_folder->Write(u"a.htm"_s, "<P>x\r\n"));
+        QVERIFY(Shared<Frm_Code>().IsShown()); // behind the preview
+        Commands::SetChecked(u"Menu_Tools_Option_2"_s, true);
+        Neighbours::UnloadWindow(u"Frm_Code"_s);
+        Driver::Trigger(u"Menu_File_Save"_s);
+        QVERIFY(!Loaded<Frm_Code>());
+        QCOMPARE(m_folder->Read(u"a.htm"_s), QByteArray("<p>x\r\n"));
+    }
+
+    void keepsTheSettingsOfAStartThatIsClosed() {
+        m_program.reset();
+        Global::Reset();
+        m_folder->Write(u"edit.ini"_s, "Assistant=False\r\nDontShowNewUpdate=False\r\nKey1=wertvoll\r\n");
+        Wiring::WireWindows();
+        Neighbours::CheckForUpdate.AnsweredBy([] { QVERIFY(!Shared<Frm_Main>().close()); });
+        Shared<Frm_Main>();
+        QVERIFY(!Shared<Frm_Main>().isVisible());
+        QVERIFY(m_folder->Read(u"edit.ini"_s).contains("Key1=wertvoll\r\n"));
+        m_program = std::make_unique<Driver::RunningProgram>(); // whose end puts the event loop right
+    }
+
+    void staysOpenWhereNoCopyCanBeWritten() {
+        const SmallDisk disk;
+        if (!disk.Mounted()) QSKIP("no file system may be mounted here");
+        QVERIFY(Files::Write(disk.Path() + u"\\a.htm", "alt\r\n"));
+        Documents::OpenFile(disk.Path() + u"\\a.htm");
+        Driver::TypeCode(u"neu "_s);
+        disk.Fill(0);
+        Files::SetProgramDirectory(disk.Path());
+        m_dialogs->ExpectMessage(u"Beenden"_s, Unsaved, Dialogs::Answer::Yes);
+        m_dialogs->ExpectMessage(u"Fehler"_s,
+                                 u"Fehler beim Speichern der Datei. Stellen Sie sicher, dass die Datei "
+                                 "nicht schreibgeschützt ist."_s);
+        m_dialogs->ExpectMessage(
+            u"Beenden"_s, u"Auch eine Sicherungskopie des Textes kann nicht geschrieben werden. Das Programm "
+                          "bleibt geöffnet, damit der Text nicht verloren geht."_s);
+        Shared<Frm_Main>().close();
+        QVERIFY(Shared<Frm_Main>().isVisible() && Global::DocChanged);
+        QCOMPARE(Files::Read(disk.Path() + u"\\a.htm").value_or(QByteArray()), QByteArray("alt\r\n"));
+        disk.Empty();
+        m_dialogs->ExpectMessage(u"Beenden"_s, Unsaved, Dialogs::Answer::Yes);
+        m_dialogs->ExpectSaveFile(u"Speichern unter"_s, disk.Path() + u"\\b.htm");
+        Shared<Frm_Main>().close();
+        QCOMPARE(Files::Read(disk.Path() + u"\\b.htm").value_or(QByteArray()), QByteArray("neu alt\r\n"));
+        m_program.reset(); // before its disk goes
+    }
+
+    void fitsTheWindowToItsScreen_data() {
+        QTest::addColumn<QRect>("saved");
+        QTest::addColumn<QRect>("shown");
+        QTest::newRow("as it was") << QRect(40, 50, 900, 650) << QRect(40, 50, 900, 650);
+        QTest::newRow("half outside") << QRect(900, 700, 900, 650) << QRect(380, 150, 900, 650);
+        QTest::newRow("from a larger screen") << QRect(-20, -30, 3000, 2000) << QRect(0, 0, 1280, 800);
+        QTest::newRow("on the second") << QRect(1500, 100, 600, 500) << QRect(1500, 100, 600, 500);
+        QTest::newRow("nowhere") << QRect(9000, 9000, 600, 500) << QRect(680, 300, 600, 500);
+        QTest::newRow("too small") << QRect(10, 10, 5, 5) << QRect(10, 10, 480, 360);
+    }
+    void fitsTheWindowToItsScreen() {
+        QFETCH(QRect, saved);
+        QTEST(Program::FittedToScreen(saved, {QRect(0, 0, 1280, 800), QRect(1280, 0, 1024, 768)}), "shown");
+    }
+};
+
+REGISTER_TEST(Promises);
+#include "promises_test.moc"
