@@ -77,6 +77,7 @@ bool OpenPicture(const QString& path) {
     Global::HeldSource = std::move(picture->text);
     picture->format.lfOnly = false;
     SetFormat(picture->format);
+    Neighbours::SetStatusPanel(EncodingPanel, {}); // bytes, no text
     Neighbours::Browse(path);
     SetType(u"IMG"_s, {});
     return true;
