@@ -25,8 +25,9 @@ std::optional<Remark> JudgeTag(QStringView typed, QChar last, const QString& hel
         const auto text = Lists::HelpText(help, tag);
         return text ? std::optional(Remark{Friendly, *text}) : std::nullopt;
     }
-    // without its last character "br/" passes as "br"
-    if (last != u'>' || Lists::IsKnownTag(tag.chopped(1))) return std::nullopt;
+    // Without its last character "br/" passes as "br". The empty name is known between the hyphens of "!--",
+    // but it spares no tag of one letter.
+    if (last != u'>' || (tag.size() > 1 && Lists::IsKnownTag(tag.chopped(1)))) return std::nullopt;
     return Remark{Warning,
                   u"Diesen Tag kenne ich nicht. Überprüfen Sie, ob Sie ihn richtig geschrieben haben. "
                   "Falscher Tag: <"_s +

@@ -61,7 +61,7 @@ export const properties = [
   { why: 'draft parts of older modules', names: [
     /^corner-/, /^box-shadow-/, /^background-(tbd|position-(block|inline)|repeat-(x|y|block|inline))$/,
     /^border-(top|right|bottom|left|block-start|block-end|inline-start|inline-end)-radius$/,
-    /^border-(.*-)?clip$/, /^overflow-clip-margin/, /^mask-border/, /^(row-rule|rule)/,
+    /^(min-|max-)?size$/, /^border-(.*-)?clip$/, /^overflow-clip-margin/, /^mask-border/, /^(row-rule|rule)/,
     /^column-rule-(break|inset|visibility)/, /^text-decoration-(skip-(box|self|spaces)|inset|skip$)/,
     /^(fill|stroke)-(break|color|image|origin|position|repeat|size|align|dash-corner|dash-justify)$/,
     ...words(`animation-delay-end animation-delay-start block-ellipsis
@@ -69,7 +69,7 @@ export const properties = [
       caret-animation caret-shape interactivity interest-delay interest-delay-end
       interest-delay-start window-drag initial-letter-align initial-letter-wrap inline-sizing
       line-fit-edge text-box text-box-edge text-box-trim alignment-baseline baseline-shift
-      baseline-source dominant-baseline frame-sizing max-size min-size min-intrinsic-sizing
+      baseline-source dominant-baseline frame-sizing min-intrinsic-sizing
       continue max-lines string-set column-height column-wrap float-defer
       float-offset float-reference marker-side margin-break margin-trim mask-type clip-rule
       color-adjust flex-line-count reading-flow reading-order
@@ -89,6 +89,7 @@ export const members = [
   { why: 'event handlers have a list of their own', names: [/^.on[a-z]+$/] },
   { why: 'constants, better read in a reference', names: [/^#[A-Z][A-Z0-9_]*$/] },
   { why: 'reflections of ARIA attributes, usually set by setAttribute', names: [/^.aria[A-Z]/] },
+  { why: 'in drafts alone', names: [/^.convert(Point|Quad|Rect)FromNode$/, '*getBoxQuads'] },
   { why: 'kept by the standards for old pages alone and without effect', names: words(`
     *captureEvents *releaseEvents +external *clear *taintEnabled #vendorSub #oscpu
     *queryCommandEnabled *queryCommandIndeterm *queryCommandState *queryCommandSupported
