@@ -108,8 +108,9 @@ function htmlAttributes(name) {
     ['', ranked(name, offered([...htmlOwn(name), ...lookUp(attributes.additions, name)]))],
     [headings.wml, lookUp(attributes.wml, name)],
     [headings.svg, lookUp(attributes.svg, name)],
-    [headings.common, offered([...attributes.common, ...htmlGlobals])],
+    [headings.common, offered(attributes.common)],
     [headings.events, [...lookUp(attributes.ownEvents, name), ...events]],
+    [headings.rare, offered([...attributes.rare, ...htmlGlobals])],
     [headings.aria, toldAloud ? offered([...attributes.aria, ...aria]) : []],
   ]);
 }

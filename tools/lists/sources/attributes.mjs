@@ -8,6 +8,7 @@ export const headingMark = '·';
 export const headings = {
   common: '·Allgemein',
   events: '·Ereignisse',
+  rare: '·Weitere',
   aria: '·ARIA',
   svg: '·SVG',
   presentation: '·Darstellung',
@@ -118,13 +119,17 @@ export const svg = {
 };
 export const wmlCommon = ['id', 'class', 'xml:lang'];
 
-// The order of the common attributes; what else the standard adds to all elements follows.
+// The common attributes of every day, above the events.
 export const common = [
   'class', 'id', 'style', 'title', 'lang', 'dir', 'tabindex', 'accesskey', 'hidden',
-  'contenteditable', 'draggable', 'translate', 'spellcheck', 'autofocus', 'popover', 'inert',
-  'inputmode', 'enterkeyhint', 'autocapitalize', 'autocorrect', 'itemscope', 'itemtype',
-  'itemprop', 'itemid', 'itemref', 'is', 'slot', 'part', 'exportparts', 'nonce',
-  'writingsuggestions', 'xml:lang',
+  'contenteditable', 'draggable', 'translate', 'spellcheck',
+];
+
+// Those of rarer use, below the events; what else the standard adds to all elements follows.
+export const rare = [
+  'autofocus', 'popover', 'inert', 'inputmode', 'enterkeyhint', 'autocapitalize', 'autocorrect',
+  'itemscope', 'itemtype', 'itemprop', 'itemid', 'itemref', 'is', 'slot', 'part', 'exportparts',
+  'nonce', 'writingsuggestions', 'xml:lang',
 ];
 
 // The order of the attributes for reading programs.
