@@ -15,7 +15,8 @@ constexpr int Warning = 2;
 
 std::optional<Remark> JudgeTag(QStringView typed, QChar last, const QString& help) {
     const auto cut = std::find_if(typed.begin(), typed.end(), [](QChar c) { return c == u'>' || c == u' '; });
-    const QString tag = typed.first(cut - typed.begin()).toString();
+    QString tag = typed.first(cut - typed.begin()).toString();
+    if (tag.startsWith(u"!--")) tag = u"!--"_s; // a comment's text may begin without a blank
     if (tag.isEmpty()) {
         return Remark{Warning,
                       u"Haaalt, so etwas gibt es nicht. Nach einem Kleiner-Zeichen beginnt sofort der Name "

@@ -186,6 +186,7 @@ private slots:
         QTest::newRow("unknown, still open") << u"<glitzer |"_s << 0 << QString();
         QTest::newRow("slash at the end") << u"<br/>|"_s << 0 << QString();
         QTest::newRow("end of a comment") << u"<!-- b -->|"_s << 1 << u"Kommentar. "_s;
+        QTest::newRow("end of a comment without blanks") << u"<!--b-->|"_s << 1 << u"Kommentar. "_s;
         QTest::newRow("one wrong letter") << u"<z>|"_s << 2 << unknown.arg(u"z"_s);
         QTest::newRow("blank behind the sign") << u"a < |"_s << 2 << stop;
         QTest::newRow("never closed") << u"<p <|"_s << 2 << forgot;

@@ -32,8 +32,8 @@ const scriptStandards = [
   'intersection-observer', 'resize-observer', 'performance-timeline', 'user-timing', 'hr-time',
   'resource-timing', 'navigation-timing', 'geolocation', 'storage', 'console', 'encoding',
   'screen-orientation', 'service-workers', 'webcrypto', 'requestidlecallback', 'pointerlock',
-  'notifications', 'page-visibility', 'permissions', 'mediacapture-streams', 'beacon', 'vibration',
-  'web-share', 'css-font-loading', 'DOM-Parsing', 'streams',
+  'notifications', 'permissions', 'mediacapture-streams', 'beacon', 'vibration',
+  'web-share', 'css-font-loading', 'streams',
 ];
 
 const specifications = await idl.parseAll();
