@@ -19,7 +19,8 @@ std::optional<Remark> AnswerAbout(const QString& help, const QString& name) {
         const auto text = Lists::HelpText(help, name);
         return text ? std::optional(Remark{1, *text}) : std::nullopt;
     }
-    if (Lists::IsKnownTag(name.chopped(1))) return std::nullopt;
+    // The empty name is known between the hyphens of "!--", but it spares no name of one letter.
+    if (name.size() > 1 && Lists::IsKnownTag(name.chopped(1))) return std::nullopt;
     return Remark{
         2, u"Diesen Tag kenne ich nicht. Überprüfen Sie, ob Sie ihn richtig geschrieben haben. Falscher "
            "Tag: <%1>"_s.arg(name)};

@@ -147,6 +147,7 @@ void CloseOpenTag(double position) {
                 if (at > 0) name.truncate(at);
             }
             if (name.startsWith(u'/')) return;
+            if (name.startsWith(u"!--")) name = u"!--"_s; // a comment's text may begin without a blank
             if (!noClose.contains(u'ß' + Text::UpperCase(name) + u'ß')) {
                 Undo::PushUndo();
                 box->SetSelLength(0);

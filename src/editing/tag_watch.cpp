@@ -15,7 +15,8 @@ constexpr int Warning = 2;
 
 std::optional<Remark> JudgeTag(QStringView typed, QChar last, const QString& help) {
     const auto cut = std::find_if(typed.begin(), typed.end(), [](QChar c) { return c == u'>' || c == u' '; });
-    const QString tag = typed.first(cut - typed.begin()).toString();
+    QString tag = typed.first(cut - typed.begin()).toString();
+    if (tag.startsWith(u"!--")) tag = u"!--"_s; // a comment's text may begin without a blank
     if (tag.isEmpty()) {
         return Remark{Warning,
                       u"Haaalt, so etwas gibt es nicht. Nach einem Kleiner-Zeichen beginnt sofort der Name "
@@ -25,8 +26,9 @@ std::optional<Remark> JudgeTag(QStringView typed, QChar last, const QString& hel
         const auto text = Lists::HelpText(help, tag);
         return text ? std::optional(Remark{Friendly, *text}) : std::nullopt;
     }
-    // without its last character "br/" passes as "br"
-    if (last != u'>' || Lists::IsKnownTag(tag.chopped(1))) return std::nullopt;
+    // Without its last character "br/" passes as "br". The empty name is known between the hyphens of "!--",
+    // but it spares no tag of one letter.
+    if (last != u'>' || (tag.size() > 1 && Lists::IsKnownTag(tag.chopped(1)))) return std::nullopt;
     return Remark{Warning,
                   u"Diesen Tag kenne ich nicht. Überprüfen Sie, ob Sie ihn richtig geschrieben haben. "
                   "Falscher Tag: <"_s +

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The prepared lookups against the search for text that they stand for, over the lists as they ship.
+#include "debugger/html_check.h"
 #include "debugger/tag_lists.h"
 #include "editing/lists.h"
+#include "platform/literals.h"
 #include "platform/text.h"
+#include "report_text.h"
 #include "shell/global.h"
 #include "support/program_folder.h"
 #include "support/test_registry.h"
@@ -18,6 +21,8 @@ private slots:
     void PiecesOfTheLists();
     void RandomNames();
     void SmallLists();
+    void PagesUnderTheShippedLists_data();
+    void PagesUnderTheShippedLists();
 
 private:
     void Compare(const QString& name) const;
@@ -98,6 +103,43 @@ void TagLookup::SmallLists() {
     QVERIFY(!Debugger::DelimitedNames(u"a", u'-').Contains(u"a"));
     // With two entries the delimiters meet, and the empty name is found between them.
     QVERIFY(Debugger::DelimitedNames(u"ßbrßßhrß", u'ß').Contains(u""));
+}
+
+void TagLookup::PagesUnderTheShippedLists_data() {
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QStringList>("rows");
+    const QStringList none;
+    QTest::newRow("hidden sections") << u"<script>/*<![CDATA[*/\r\nif (a < b) c();\r\n/*]]>*/</script>"
+                                        "<style>/*<![CDATA[*/ p { } /*]]>*/</style>"
+                                        "<script><!--//--><![CDATA[//><!--\r\nd\r\n//--><!]]></script>"_s
+                                     << none;
+    QTest::newRow("server comment") << u"<%-- a --%><p>b</p>"_s << none;
+    QTest::newRow("comparison") << u"<script>if (a < b && c <d) e();</script>"_s
+                                << QStringList{u"Error3|     unbekannter Tag: <d)>|d)|24"_s,
+                                               u"Error3|     Der Tag <d)> wurde nicht geschlossen.|d)|24"_s};
+    QTest::newRow("empty WML elements")
+        << u"<wml><card><onevent><go href=\"#a\"/></onevent><do><prev/></do><p>a<br/></p></card></wml>"_s
+        << none;
+    QTest::newRow("an open card") << u"<wml><card><p>a</p></wml>"_s
+                                  << QStringList{
+                                         u"Error3|     Der Tag <card> wurde nicht geschlossen.|card|6"_s};
+    QTest::newRow("an element that may hold others")
+        << u"<do><go href=\"a\"><postfield/></go></do>"_s
+        << QStringList{u"Error3|     Der Tag </go> muss nicht geschlossen werden|/go|30"_s};
+    QTest::newRow("font and formula")
+        << u"<svg><font><font-face/><missing-glyph/><glyph/></font></svg><math><apply><plus/></apply></math>"_s
+        << none;
+    QTest::newRow("names of no standard")
+        << u"<piecewice>"_s
+        << QStringList{u"Error3|     unbekannter Tag: <piecewice>|piecewice|1"_s,
+                       u"Error3|     Der Tag <piecewice> wurde nicht geschlossen.|piecewice|1"_s};
+}
+
+void TagLookup::PagesUnderTheShippedLists() {
+    QFETCH(QString, page);
+    Debugger::Report report;
+    Debugger::CheckHTML(page, 100, m_lists, report);
+    QTEST(RowTexts(report), "rows");
 }
 
 REGISTER_TEST(TagLookup);

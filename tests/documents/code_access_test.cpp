@@ -92,6 +92,15 @@ private slots:
             << u"<table\r\nborder=1>|"_s << u"<table\r\nborder=1></table>|"_s;
         QTest::newRow("name cut by a tab") << u"<table\tborder=1>|"_s << u"<table\tborder=1></table>|"_s;
         QTest::newRow("only tags without closing") << u"<br><br>|"_s << u"<br><br>|"_s;
+        QTest::newRow("behind a comment") << u"<p>a<!-- b -->|"_s << u"<p>a<!-- b --></p>|"_s;
+        QTest::newRow("behind a comment without blanks") << u"<p>a<!--b-->|"_s << u"<p>a<!--b--></p>|"_s;
+        QTest::newRow("behind empty elements")
+            << u"<card><do><go/><br/><prev/>|"_s << u"<card><do><go/><br/><prev/></do>|"_s;
+        QTest::newRow("behind a drawing's parts")
+            << u"<svg><rect/><glyph/><g/>|"_s << u"<svg><rect/><glyph/><g/></svg>|"_s;
+        QTest::newRow("behind sections and server comments")
+            << u"<script>/*<![CDATA[*/ a /*]]>*/<%-- b --%>|"_s
+            << u"<script>/*<![CDATA[*/ a /*]]>*/<%-- b --%></script>|"_s;
         QTest::newRow("at the start") << u"|<p>"_s << u"|<p>"_s;
         QTest::newRow("no tag") << u"Text|"_s << u"Text|"_s;
     }

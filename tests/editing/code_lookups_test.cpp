@@ -101,6 +101,26 @@ private slots:
         QVERIFY(ScriptMembers::MembersOf(objects, u"Dat"_s).isEmpty());
     }
 
+    // The files as they ship.
+    void shippedWordsLeadWhereTheyAreMeant_data() {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QString>("first"); // of the words offered
+        QTest::addColumn<QString>("other");
+        QTest::newRow("type") << u"text"_s << u"text"_s << u"password"_s;
+        QTest::newRow("table row") << u"tr"_s << u"thead"_s << u"tbody"_s;
+        QTest::newRow("style sheet") << u"collapse"_s << u"separate"_s << u"collapse"_s;
+        QTest::newRow("script") << u"alert"_s << u"alert"_s << u"confirm"_s;
+        QTest::newRow("capital umlaut") << u"&Auml;"_s << u"&Auml;"_s << u"&Ouml;"_s;
+        QTest::newRow("small umlaut") << u"&auml;"_s << u"&auml;"_s << u"&ouml;"_s;
+    }
+    void shippedWordsLeadWhereTheyAreMeant() {
+        QFETCH(QString, word);
+        QFETCH(QString, other);
+        const QStringList words = AttributeLookup::WordsFor(word);
+        QTEST(words.value(0), "first");
+        QVERIFY2(words.contains(other), qPrintable(words.join(u' ')));
+    }
+
     void completesWords_data() {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("word");
@@ -165,6 +185,9 @@ private slots:
         QTest::newRow("unknown") << u"<glitzer>|"_s << 2 << unknown.arg(u"glitzer"_s);
         QTest::newRow("unknown, still open") << u"<glitzer |"_s << 0 << QString();
         QTest::newRow("slash at the end") << u"<br/>|"_s << 0 << QString();
+        QTest::newRow("end of a comment") << u"<!-- b -->|"_s << 1 << u"Kommentar. "_s;
+        QTest::newRow("end of a comment without blanks") << u"<!--b-->|"_s << 1 << u"Kommentar. "_s;
+        QTest::newRow("one wrong letter") << u"<z>|"_s << 2 << unknown.arg(u"z"_s);
         QTest::newRow("blank behind the sign") << u"a < |"_s << 2 << stop;
         QTest::newRow("never closed") << u"<p <|"_s << 2 << forgot;
         QTest::newRow("closed before") << u"<p> <|"_s << 0 << QString();
@@ -174,7 +197,7 @@ private slots:
     void watchesTags() {
         QFETCH(QString, text);
         const qsizetype caret = TakeCaret(text);
-        const auto remark = TagWatch::Watch(text, caret, u"<h-b- Fett. <e- "_s);
+        const auto remark = TagWatch::Watch(text, caret, u"<h-b- Fett. <e- <h-!--- Kommentar. <e- "_s);
         QTEST(remark ? remark->urgency : 0, "urgency");
         QTEST(remark ? remark->text : QString(), "says");
     }

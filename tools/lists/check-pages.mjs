@@ -17,7 +17,12 @@ const pages = [
 //<![CDATA[
 var a;
 //]]>
-</script></head><body><p>a<br/>b<hr
+</script><script type="text/javascript">/*<![CDATA[*/ if (a < b) c(); /*]]>*/</script>
+<style type="text/css">/*<![CDATA[*/
+p { color: red }
+/*]]>*/</style><script type="text/javascript"><!--//--><![CDATA[//><!--
+var d;
+//--><!]]></script></head><body><p>a<br/>b<hr
 /></p><!-- <none> --></body></html>`, []],
   ['WML 1.1', `<?xml version="1.0"?>
 <!DOCTYPE wml PUBLIC "-//WAPFORUM//DTD WML 1.1//EN" "x">
@@ -32,9 +37,9 @@ var a;
 <path d="M0"/><foreignObject><p>x</p></foreignObject></svg><math><mrow><mi>x</mi><mo>=</mo>
 <mfrac><mn>1</mn><mn>2</mn></mfrac><mspace/></mrow></math><dialog open>x</dialog>
 <details><summary>x</summary></details></main></body></html>`, []],
+  ['server pages', '<%@ page %><%-- x --%><% a(); %><%= b %><?php c(); ?><p>x</p>', []],
   ['faults', '<html><bdoy><p>x</html></br><img src="x"></img><>', [
-    'unknown bdoy', 'not open /br', 'needless /br', 'needless /img', 'unknown ', 'not closed bdoy',
-    'not closed p',
+    'unknown bdoy', 'not open /br', 'needless /br', 'needless /img', 'not closed bdoy', 'not closed p',
   ]],
 ];
 

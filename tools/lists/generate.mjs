@@ -7,12 +7,9 @@ import { mkdirSync, writeFileSync } from 'node:fs';
 import { dirname, join, resolve } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import elements from '@webref/elements';
-import { htmlElementAttributes } from 'html-element-attributes';
-import { htmlTagNames } from 'html-tag-names';
 import { htmlVoidElements } from 'html-void-elements';
 import { mathmlTagNames } from 'mathml-tag-names';
-import { svgElementAttributes } from 'svg-element-attributes';
-import { svgTagNames } from 'svg-tag-names';
+import { attributeReason, memberReason, propertyReason } from './left-out.mjs';
 import * as attributes from './sources/attributes.mjs';
 import * as names from './sources/names.mjs';
 import { objects } from './sources/script-objects.mjs';
@@ -21,6 +18,11 @@ import * as tags from './sources/tags.mjs';
 import { wordBlocks } from './sources/words.mjs';
 import { checkFiles } from './check.mjs';
 import { checkSources } from './check-sources.mjs';
+import { checkStandards } from './check-standards.mjs';
+import {
+  ancestors, aria, htmlGlobals, htmlNames, htmlOwn, ownMembers, properties, svgEverywhere, svgNames,
+  svgOwn,
+} from './standards.mjs';
 
 const here = dirname(fileURLToPath(import.meta.url));
 const target = resolve(process.argv[2] ?? join(here, '..', '..', 'data'));
@@ -47,17 +49,25 @@ async function standardTags() {
 }
 
 async function tagNames() {
+  // HTML first: of "textarea" and SVG's "textArea" the spelling, and with it the block, is HTML's.
   const all = [
-    ...svgTagNames, ...htmlTagNames, ...mathmlTagNames, ...(await standardTags()),
+    ...htmlNames, ...svgNames, ...mathmlTagNames, ...(await standardTags()),
     ...tags.wmlTags, ...tags.periodTags, ...tags.modernTags, ...tags.declarations,
   ];
-  const body = unique(all).filter((name) => lower(name) !== tags.lastTag).sort(byName);
+  const body = unique(all)
+    .filter((name) => lower(name) !== tags.lastTag && !tags.strayTags.includes(name)).sort(byName);
   return [...body, tags.lastTag];
 }
 
-function noCloseNames() {
+/**
+ * Names without closing tag, and each element's name with the "/" of "<name/>": who looks for the
+ * tag to be closed reads that as part of the name.
+ */
+function noCloseNames(tagList) {
+  const closed = tagList.filter((name) => /^[a-z]/i.test(name)).map((name) => `${name}/`);
   const all = [
-    ...htmlVoidElements, ...tags.noCloseExtra, ...tags.declarations, tags.lastTag,
+    ...htmlVoidElements, ...tags.noCloseExtra, ...tags.emptyContentMath, ...tags.declarations,
+    tags.lastTag, ...closed,
   ];
   return unique(all).sort(byName);
 }
@@ -89,26 +99,32 @@ function joined(sections) {
 
 function htmlAttributes(name) {
   const { headings } = attributes;
-  const dropped = lookUp(attributes.omissions, name);
-  const own = [...lookUp(htmlElementAttributes, name), ...lookUp(attributes.additions, name)];
-  const silent = Object.hasOwn(attributes.silentCommon, name);
-  const ownEvents = lookUp(attributes.ownEvents, name);
+  const offered = (list) => list.filter((item) => (
+    attributeReason('html', name, item) === undefined));
+  const silent = attributes.silent.includes(name);
+  const events = silent ? [] : attributes.events;
+  const toldAloud = !silent && !attributes.silentWithEvents.includes(name);
   return joined([
-    ['', ranked(name, own.filter((attribute) => !dropped.includes(attribute)))],
+    ['', ranked(name, offered([...htmlOwn(name), ...lookUp(attributes.additions, name)]))],
     [headings.wml, lookUp(attributes.wml, name)],
-    [headings.common, silent ? attributes.silentCommon[name] : attributes.common],
-    [headings.events, silent ? ownEvents : [...ownEvents, ...attributes.events]],
+    [headings.svg, lookUp(attributes.svg, name)],
+    [headings.common, offered(attributes.common)],
+    [headings.events, [...lookUp(attributes.ownEvents, name), ...events]],
+    [headings.rare, offered([...attributes.rare, ...htmlGlobals])],
+    [headings.aria, toldAloud ? offered([...attributes.aria, ...aria]) : []],
   ]);
 }
 
 function svgAttributes(name) {
   const { headings } = attributes;
   const shown = lookUp(attributes.svgPresentation, name);
-  const everywhere = svgElementAttributes['*'];
-  const presentation = new Set([...everywhere, ...attributes.svgNoise]);
-  const own = lookUp(svgElementAttributes, name).filter((item) => !presentation.has(item));
+  const presentation = new Set([...svgEverywhere, ...Object.values(attributes.svgPresentation)
+    .flat()]);
+  const own = svgOwn(name).filter((item) => !presentation.has(item));
+  const offered = [...own, ...lookUp(attributes.svgAdditions, name)]
+    .filter((item) => attributeReason('svg', name, item) === undefined);
   return joined([
-    ['', ranked(name, [...own, ...lookUp(attributes.svgAdditions, name)])],
+    ['', ranked(name, offered)],
     [headings.presentation, shown],
     [headings.common, attributes.svgCommon],
     [headings.events, shown.length > 0 ? attributes.svgEvents : []],
@@ -135,14 +151,14 @@ function wmlAttributes(name) {
 
 /** The attributes of a tag, or undefined for a name that takes none and so has no block. */
 function attributesOf(name) {
-  const html = [...htmlTagNames, ...tags.periodTags, ...tags.modernTags];
+  const html = [...htmlNames, ...tags.periodTags, ...tags.modernTags];
   if (tags.declarations.includes(name) || name === tags.lastTag) {
     return Object.hasOwn(attributes.declarations, name) ? attributes.declarations[name] : undefined;
   }
   // HTML knows "image" only as a slip for "img", and "svg" and "math" as the doors to the others.
   if (!['image', 'svg', 'math'].includes(name) && html.includes(name)) return htmlAttributes(name);
   if (Object.hasOwn(attributes.wml, name)) return wmlAttributes(name);
-  if (svgTagNames.includes(name)) return svgAttributes(name);
+  if (svgNames.includes(name)) return svgAttributes(name);
   if (mathmlTagNames.includes(name)) return mathAttributes(name);
   return htmlAttributes(name);
 }
@@ -168,8 +184,18 @@ function wrapped(opener, entries) {
 /** A block for token readers: the opener is a token of its own. */
 const tokenBlock = (opener, entries) => wrapped(`${opener},`, entries);
 
-const scriptLine = (object) => `<js-${object.name}- ${object.members.map((member) => `${member}, `)
-  .join('')}${end}`;
+/** The chosen members, and behind them what else the object's interfaces have by the standards. */
+function membersOf(object) {
+  const interfaces = object.fill.flatMap((name) => (
+    object.whole ? [name, ...ancestors(name)] : [name]));
+  const all = [...object.members, ...interfaces.flatMap(ownMembers)
+    .filter((entry) => memberReason(entry) === undefined).sort((a, b) => byName(a.slice(1), b.slice(1)))];
+  const seen = new Set();
+  return all.filter((entry) => !seen.has(entry.slice(1)) && seen.add(entry.slice(1)));
+}
+
+const scriptLine = (object) => `<js-${object.name}- ${membersOf(object)
+  .map((member) => `${member}, `).join('')}${end}`;
 
 function attributeLines(tagList) {
   // Names with hyphens last: "annotation-xml" would answer for "xml" if it came before it.
@@ -178,7 +204,10 @@ function attributeLines(tagList) {
     .map((name) => [name, attributesOf(name)])
     .filter(([, list]) => list !== undefined);
   return [
-    ...tokenBlock('<n-noclosetags-', noCloseNames()),
+    // "!--" has two hyphens in a row, and a click on "< " asks for the attributes of the empty name
+    // by just that: it finds this block first, and none.
+    `<t-- ${end}`,
+    ...tokenBlock('<n-noclosetags-', noCloseNames(tagList)),
     ...tokenBlock('<s-events-', names.events),
     ...tokenBlock('<m-metatags-', names.metas),
     ...blocks.flatMap(([name, list]) => wrapped(`<t-${name}-`, list)),
@@ -189,7 +218,18 @@ function attributeLines(tagList) {
 
 const wordLines = () => wordBlocks.flatMap((words) => tokenBlock('<w-', words));
 
-const styleLines = () => styles.blocks.flatMap(([object, properties]) => (
+/** What is left of the standard's properties is offered for every object. */
+function styleBlocks() {
+  const standard = properties.filter((property) => propertyReason(property) === undefined)
+    .map((property) => property.name).sort(byName);
+  const special = new Set(styles.special);
+  const common = unique([...styles.everywhere, ...standard.filter((name) => !special.has(name))]);
+  const blocks = styles.blocks.map(([object, list]) => (
+    [object, unique(list).filter((name) => !common.includes(name))]));
+  return [...blocks, ['default', common]];
+}
+
+const styleLines = () => styleBlocks().flatMap(([object, properties]) => (
   wrapped(`${object},`, properties)));
 
 function write(file, lines) {
@@ -209,3 +249,4 @@ write('attribute.lst', attributeLines(tagList));
 write('wordchange.lst', wordLines());
 write('styles.lst', styleLines());
 checkFiles(target);
+await checkStandards(target);

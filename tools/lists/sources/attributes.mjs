@@ -8,6 +8,9 @@ export const headingMark = '·';
 export const headings = {
   common: '·Allgemein',
   events: '·Ereignisse',
+  rare: '·Weitere',
+  aria: '·ARIA',
+  svg: '·SVG',
   presentation: '·Darstellung',
   wml: '·WML',
 };
@@ -54,7 +57,7 @@ export const additions = {
   frame: ['bordercolor'],
   frameset: ['border', 'bordercolor', 'frameborder', 'framespacing'],
   hr: ['color'],
-  html: ['xmlns', 'xml:lang'],
+  html: ['xmlns'],
   iframe: ['allowtransparency', 'hspace', 'vspace'],
   ilayer: ['above', 'background', 'below', 'bgcolor', 'clip', 'height', 'left', 'name', 'pagex',
     'pagey', 'src', 'top', 'visibility', 'width', 'z-index'],
@@ -68,8 +71,10 @@ export const additions = {
   menu: ['label', 'type'],
   menuitem: ['checked', 'command', 'default', 'disabled', 'icon', 'label', 'radiogroup', 'type'],
   multicol: ['cols', 'gutter', 'width'],
+  pre: ['xml:space'],
   nextid: ['n'],
-  script: ['event', 'for'],
+  script: ['event', 'for', 'xml:space'],
+  style: ['xml:space'],
   spacer: ['align', 'height', 'size', 'type', 'width'],
   table: ['background', 'bordercolor', 'bordercolordark', 'bordercolorlight', 'height'],
   td: ['background', 'bordercolor', 'bordercolordark', 'bordercolorlight'],
@@ -78,22 +83,10 @@ export const additions = {
   xml: ['src'],
 };
 
-// Present in the standards' tables but of no use to a person who picks from a list.
-export const omissions = {
-  a: ['ping'],
-  area: ['ping'],
-  button: ['command', 'commandfor'],
-  input: ['alpha', 'colorspace', 'dirname', 'ismap'],
-  iframe: ['allowpaymentrequest', 'allowusermedia'],
-  script: ['blocking'],
-  style: ['blocking'],
-  link: ['blocking'],
-  template: ['shadowrootcustomelementregistry'],
-};
-
 // WML's own attributes of elements that HTML has too stand under a heading of their own.
 export const wml = {
   access: ['domain', 'path'],
+  a: ['title', 'accesskey'],
   anchor: ['title', 'accesskey'],
   card: ['title', 'newcontext', 'ordered', 'onenterforward', 'onenterbackward', 'ontimer'],
   do: ['type', 'label', 'name', 'optional'],
@@ -117,40 +110,42 @@ export const wml = {
   timer: ['name', 'value'],
   wml: [],
 };
+// SVG's own attributes of elements that HTML has too, likewise.
+export const svg = {
+  a: ['xlink:href', 'transform', 'fill', 'stroke'],
+  font: ['horiz-adv-x', 'horiz-origin-x', 'horiz-origin-y', 'vert-adv-y', 'vert-origin-x',
+    'vert-origin-y'],
+  script: ['xlink:href'],
+};
 export const wmlCommon = ['id', 'class', 'xml:lang'];
 
+// The common attributes of every day, above the events.
 export const common = [
-  'class', 'id', 'style', 'title', 'lang', 'dir', 'tabindex', 'accesskey', 'hidden', 'role',
-  'aria-label', 'contenteditable', 'draggable', 'translate',
+  'class', 'id', 'style', 'title', 'lang', 'dir', 'tabindex', 'accesskey', 'hidden',
+  'contenteditable', 'draggable', 'translate', 'spellcheck',
 ];
 
-// Elements that show nothing get fewer common attributes and no mouse or key events.
-export const silentCommon = {
-  base: ['id'],
-  basefont: ['id'],
-  bgsound: ['id'],
-  col: ['class', 'id', 'style'],
-  colgroup: ['class', 'id', 'style'],
-  frame: ['class', 'id', 'style', 'title'],
-  frameset: ['class', 'id', 'style', 'title'],
-  head: ['id', 'lang', 'dir'],
-  html: ['lang', 'dir', 'class', 'id'],
-  link: ['class', 'id', 'title', 'lang', 'nonce'],
-  meta: ['id', 'lang', 'dir', 'itemprop'],
-  nextid: [],
-  noframes: ['class', 'id', 'lang'],
-  noscript: ['class', 'id', 'lang'],
-  param: ['id'],
-  script: ['id', 'nonce'],
-  server: ['id'],
-  slot: ['class', 'id'],
-  source: ['id'],
-  style: ['id', 'title', 'lang', 'nonce'],
-  template: ['class', 'id'],
-  title: ['id', 'lang', 'dir'],
-  track: ['id'],
-  xml: ['id'],
-};
+// Those of rarer use, below the events; what else the standard adds to all elements follows.
+export const rare = [
+  'autofocus', 'popover', 'inert', 'inputmode', 'enterkeyhint', 'autocapitalize', 'autocorrect',
+  'itemscope', 'itemtype', 'itemprop', 'itemid', 'itemref', 'is', 'slot', 'part', 'exportparts',
+  'nonce', 'writingsuggestions', 'xml:lang',
+];
+
+// The order of the attributes for reading programs.
+export const aria = [
+  'role', 'aria-label', 'aria-labelledby', 'aria-describedby', 'aria-hidden', 'aria-expanded',
+  'aria-controls', 'aria-current', 'aria-live', 'aria-haspopup', 'aria-checked', 'aria-pressed',
+  'aria-selected', 'aria-disabled', 'aria-required', 'aria-invalid',
+];
+
+// Elements that show nothing have no mouse or key events and nothing to tell a reading program;
+// those of HTML 4.01 that had the events keep them.
+export const silent = [
+  'base', 'basefont', 'bgsound', 'frame', 'frameset', 'head', 'html', 'isindex', 'meta', 'nextid',
+  'param', 'script', 'server', 'slot', 'source', 'style', 'template', 'title', 'track', 'xml',
+];
+export const silentWithEvents = ['col', 'colgroup', 'link', 'noframes', 'noscript'];
 
 export const events = [
   'onclick', 'ondblclick', 'onmousedown', 'onmouseup', 'onmouseover', 'onmousemove', 'onmouseout',
@@ -201,80 +196,95 @@ export const declarations = {
   '?import': ['namespace', 'implementation'],
 };
 
-export const svgCommon = ['class', 'id', 'style', 'lang'];
+export const svgCommon = ['class', 'id', 'style', 'tabindex', 'lang', 'xml:lang', 'xml:space',
+  'role', 'aria-label', 'aria-labelledby', 'aria-describedby', 'aria-hidden'];
 export const svgEvents = ['onclick', 'onmouseover', 'onmouseout', 'onmousemove', 'onload'];
 
-// The standards allow every presentation attribute on every SVG element; these are of use.
+// The standards allow every presentation attribute on every SVG element; here each stands with the
+// elements that it acts on.
+const seen = ['opacity', 'visibility', 'display', 'transform', 'clip-path', 'mask', 'filter',
+  'pointer-events', 'cursor'];
 const paint = [
   'fill', 'fill-opacity', 'fill-rule', 'stroke', 'stroke-width', 'stroke-opacity',
-  'stroke-dasharray', 'stroke-linecap', 'stroke-linejoin', 'opacity', 'transform', 'clip-path',
-  'mask', 'filter', 'visibility', 'display',
+  'stroke-dasharray', 'stroke-dashoffset', 'stroke-linecap', 'stroke-linejoin',
+  'stroke-miterlimit', 'paint-order', 'vector-effect', 'color', 'color-interpolation', ...seen,
 ];
+const shape = [...paint, 'shape-rendering', 'clip-rule'];
 const markers = ['marker-start', 'marker-mid', 'marker-end'];
-const type = [
-  'font-family', 'font-size', 'font-style', 'font-weight', 'text-anchor', 'text-decoration',
-  'dominant-baseline', 'letter-spacing', 'word-spacing', 'writing-mode',
+const face = ['font-family', 'font-size', 'font-style', 'font-weight', 'font-variant',
+  'font-stretch', 'font-size-adjust'];
+const line = [
+  'text-anchor', 'text-decoration', 'dominant-baseline', 'alignment-baseline', 'baseline-shift',
+  'letter-spacing', 'word-spacing', 'writing-mode', 'direction', 'unicode-bidi', 'text-rendering',
 ];
+const type = [...face, ...line];
+const span = [...paint, ...type];
+const filterArea = ['color-interpolation-filters'];
+const shapes = { circle: shape, ellipse: shape, rect: shape };
+for (const name of ['line', 'path', 'polygon', 'polyline']) shapes[name] = [...shape, ...markers];
+for (const name of ['filter', 'feBlend', 'feColorMatrix', 'feComponentTransfer', 'feComposite',
+  'feConvolveMatrix', 'feDisplacementMap', 'feGaussianBlur', 'feImage', 'feMerge', 'feMorphology',
+  'feOffset', 'feTile', 'feTurbulence']) shapes[name] = filterArea;
+
 export const svgPresentation = {
-  circle: paint,
-  ellipse: paint,
-  rect: paint,
-  line: [...paint, ...markers],
-  path: [...paint, ...markers],
-  polygon: [...paint, ...markers],
-  polyline: [...paint, ...markers],
-  g: [...paint, ...type],
-  svg: ['fill', 'stroke', 'stroke-width', 'opacity', 'overflow', 'font-family', 'font-size'],
-  symbol: ['overflow', 'opacity'],
-  use: paint,
-  image: ['opacity', 'transform', 'clip-path', 'mask', 'filter', 'image-rendering'],
-  text: [...paint, ...type],
-  tspan: ['fill', 'stroke', ...type],
-  textPath: ['fill', 'stroke', ...type],
-  tref: ['fill', 'stroke', ...type],
-  textArea: ['fill', 'stroke', ...type],
-  stop: ['stop-color', 'stop-opacity'],
-  linearGradient: [],
-  feFlood: ['flood-color', 'flood-opacity'],
-  feDropShadow: ['flood-color', 'flood-opacity'],
-  feDiffuseLighting: ['lighting-color'],
-  feSpecularLighting: ['lighting-color'],
-  marker: ['overflow', 'opacity'],
-  clipPath: ['clip-rule', 'transform'],
-  foreignObject: ['transform', 'opacity', 'overflow'],
-  switch: ['transform', 'opacity'],
+  ...shapes,
+  svg: [...shape, 'overflow', ...markers, ...type],
+  g: [...shape, ...markers, ...type],
+  symbol: [...paint, 'overflow', ...type],
+  switch: seen,
+  defs: paint,
+  use: [...shape, ...type],
+  image: [...seen, 'overflow', 'image-rendering'],
+  foreignObject: [...seen, 'overflow'],
+  marker: [...paint, 'overflow'],
+  pattern: [...paint, 'overflow'],
+  mask: [...paint, 'overflow'],
+  clipPath: ['clip-rule', ...seen],
+  text: [...span, 'white-space', 'text-overflow'],
+  tspan: span,
+  textPath: span,
+  tref: span,
+  altGlyph: span,
+  glyph: paint,
+  'missing-glyph': paint,
+  stop: ['stop-color', 'stop-opacity', 'color'],
+  linearGradient: ['color-interpolation'],
+  radialGradient: ['color-interpolation'],
+  feFlood: ['flood-color', 'flood-opacity', ...filterArea],
+  feDropShadow: ['flood-color', 'flood-opacity', ...filterArea],
+  feDiffuseLighting: ['lighting-color', ...filterArea],
+  feSpecularLighting: ['lighting-color', ...filterArea],
 };
 
-// Attributes of tiny phones' SVG and of content types are left out everywhere.
-export const svgNoise = [
-  'about', 'content', 'datatype', 'property', 'rel', 'resource', 'rev', 'typeof',
-  'externalResourcesRequired', 'enable-background', 'focusHighlight', 'focusable', 'nav-down',
-  'nav-down-left', 'nav-down-right', 'nav-left', 'nav-next', 'nav-prev', 'nav-right', 'nav-up',
-  'nav-up-left', 'nav-up-right', 'requiredFonts', 'requiredFormats', 'playbackorder',
-  'timelinebegin', 'timelineBegin', 'playbackOrder', 'snapshotTime', 'syncBehaviorDefault',
-  'syncToleranceDefault', 'baseProfile', 'contentScriptType', 'contentStyleType', 'kerning', 'clip', 'color-profile', 'tabindex',
-];
-// Where the element's own meaning wants an attribute that is noise elsewhere.
+// Where the element's own meaning wants an attribute that is presentation or common elsewhere.
+const links = ['href', 'xlink:href'];
 export const svgAdditions = {
-  svg: ['xmlns', 'xmlns:xlink', 'tabindex'],
-  image: ['href', 'xlink:href', 'x', 'y', 'width', 'height', 'preserveAspectRatio'],
-  use: ['href', 'xlink:href', 'x', 'y', 'width', 'height'],
-  feImage: ['href'],
-  linearGradient: ['href'],
-  radialGradient: ['href'],
-  pattern: ['href'],
-  textPath: ['href'],
-  mpath: ['href'],
+  svg: ['xmlns', 'xmlns:xlink'],
+  'font-face': face,
+  cursor: ['x', 'y'],
 };
+for (const name of ['animate', 'animateColor', 'animateMotion', 'animateTransform', 'set']) {
+  svgAdditions[name] = ['fill', ...links];
+}
+for (const name of ['altGlyph', 'animation', 'color-profile', 'cursor', 'discard', 'feImage',
+  'filter', 'font-face-uri', 'glyphRef', 'handler', 'image', 'linearGradient', 'mpath', 'pattern',
+  'prefetch', 'radialGradient', 'textPath', 'tref', 'use']) {
+  svgAdditions[name] = [...(svgAdditions[name] ?? []), ...links];
+}
 
-export const mathCommon = ['class', 'id', 'style', 'dir', 'displaystyle', 'scriptlevel',
-  'mathcolor', 'mathbackground', 'href'];
-export const mathContentCommon = ['id', 'class', 'style', 'definitionURL', 'encoding', 'xref'];
+export const mathCommon = ['class', 'id', 'style', 'dir', 'displaystyle', 'scriptlevel', 'mathsize',
+  'mathcolor', 'mathbackground', 'href', 'xref', 'tabindex', 'autofocus', 'nonce'];
+export const mathContentCommon = ['id', 'class', 'style', 'definitionURL', 'encoding', 'href',
+  'xref'];
+const indents = ['indentalign', 'indentshift', 'indenttarget', 'indentalignfirst',
+  'indentshiftfirst', 'indentalignlast', 'indentshiftlast'];
+const annotation = ['encoding', 'cd', 'name', 'definitionURL', 'src'];
 export const math = {
-  math: ['xmlns', 'display', 'alttext', 'altimg', 'maxwidth', 'overflow', 'mode'],
-  annotation: ['encoding', 'src'],
-  'annotation-xml': ['encoding', 'src'],
-  semantics: ['encoding'],
+  math: ['xmlns', 'display', 'alttext', 'altimg', 'altimg-width', 'altimg-height',
+    'altimg-valign', 'maxwidth', 'overflow', 'cdgroup', 'mode'],
+  annotation,
+  'annotation-xml': annotation,
+  semantics: ['encoding', 'cd', 'name', 'definitionURL'],
   maction: ['actiontype', 'selection'],
   maligngroup: ['groupalign'],
   malignmark: ['edge'],
@@ -282,43 +292,44 @@ export const math = {
   mfenced: ['open', 'close', 'separators'],
   mfrac: ['linethickness', 'numalign', 'denomalign', 'bevelled'],
   mglyph: ['src', 'alt', 'width', 'height', 'valign'],
-  mi: ['mathvariant', 'mathsize'],
+  mi: ['mathvariant'],
   mlabeledtr: ['rowalign', 'columnalign', 'groupalign'],
   mlongdiv: ['longdivstyle', 'align', 'stackalign', 'charalign', 'charspacing'],
   mmultiscripts: ['subscriptshift', 'superscriptshift'],
-  mn: ['mathvariant', 'mathsize'],
+  mn: ['mathvariant'],
   mo: ['form', 'fence', 'separator', 'lspace', 'rspace', 'stretchy', 'symmetric', 'maxsize',
-    'minsize', 'largeop', 'movablelimits', 'accent', 'mathvariant', 'mathsize', 'linebreak'],
+    'minsize', 'largeop', 'movablelimits', 'accent', 'mathvariant', 'linebreak', 'lineleading',
+    'linebreakstyle', 'linebreakmultchar', ...indents],
   mover: ['accent', 'align'],
   mpadded: ['width', 'height', 'depth', 'lspace', 'voffset'],
-  ms: ['lquote', 'rquote', 'mathvariant', 'mathsize'],
+  ms: ['lquote', 'rquote', 'mathvariant'],
   mscarries: ['position', 'location', 'crossout', 'scriptsizemultiplier'],
   mscarry: ['location', 'crossout'],
   msgroup: ['position', 'shift'],
   msline: ['position', 'length', 'leftoverhang', 'rightoverhang', 'mslinethickness'],
-  mspace: ['width', 'height', 'depth', 'linebreak'],
+  mspace: ['width', 'height', 'depth', 'linebreak', ...indents],
   msrow: ['position'],
   mstack: ['align', 'stackalign', 'charalign', 'charspacing'],
-  mstyle: ['mathvariant', 'mathsize', 'scriptminsize', 'scriptsizemultiplier'],
+  mstyle: ['mathvariant', 'scriptminsize', 'scriptsizemultiplier', 'infixlinebreakstyle',
+    'decimalpoint'],
   msub: ['subscriptshift'],
   msubsup: ['subscriptshift', 'superscriptshift'],
   msup: ['superscriptshift'],
-  mtable: ['align', 'rowalign', 'columnalign', 'columnwidth', 'width', 'rowspacing',
-    'columnspacing', 'rowlines', 'columnlines', 'frame', 'framespacing', 'equalrows',
-    'equalcolumns', 'side'],
+  mtable: ['align', 'rowalign', 'columnalign', 'groupalign', 'alignmentscope', 'columnwidth',
+    'width', 'rowspacing', 'columnspacing', 'rowlines', 'columnlines', 'frame', 'framespacing',
+    'equalrows', 'equalcolumns', 'side', 'minlabelspacing'],
   mtd: ['rowspan', 'columnspan', 'rowalign', 'columnalign', 'groupalign'],
-  mtext: ['mathvariant', 'mathsize'],
+  mtext: ['mathvariant'],
   mtr: ['rowalign', 'columnalign', 'groupalign'],
   munder: ['accentunder', 'align'],
   munderover: ['accent', 'accentunder', 'align'],
-  apply: [],
   ci: ['type'],
   cn: ['type', 'base'],
-  csymbol: ['cd'],
-  cs: [],
+  csymbol: ['cd', 'type'],
   declare: ['type', 'scope', 'nargs', 'occurrence'],
+  fn: ['cd'],
   interval: ['closure'],
   tendsto: ['type'],
-  share: ['href', 'src'],
+  share: ['src'],
   list: ['order'],
 };

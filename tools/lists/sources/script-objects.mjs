@@ -4,11 +4,18 @@
 // method, "+" a sub-object. A name stands for all its spellings, so "string" serves the
 // constructor String and a variable of that name alike.
 // `is` names the interfaces or the core language objects that must know the members; `also` lists
-// members that those don't tell of.
+// members that those don't tell of. The members told here come first; behind them the generator
+// puts the rest of what the interfaces have by the standards: of those in `fill`, and with `whole`
+// of those that they inherit from, too.
 
 const list = (text) => text.trim().split(/\s+/);
-const object = (name, is, members, also = '') => ({
-  name, is: list(is), members: list(members), also: also === '' ? [] : list(also),
+const object = (name, is, members, also = '', { fill = is, whole = false } = {}) => ({
+  name,
+  is: list(is),
+  members: list(members),
+  also: also === '' ? [] : list(also),
+  fill: list(fill).filter((item) => !item.startsWith('core:')),
+  whole,
 });
 
 const node = `
@@ -95,6 +102,12 @@ const context2d = `
   *rotate *scale *transform *setTransform *resetTransform *setLineDash *getLineDash
   *isPointInPath *isPointInStroke`;
 
+const typedArray = `
+  #length #byteLength #byteOffset #BYTES_PER_ELEMENT +buffer *set *subarray *slice *fill *at
+  *indexOf *lastIndexOf *includes *find *findIndex *findLast *findLastIndex *forEach *map *filter
+  *reduce *reduceRight *some *every *join *reverse *sort *copyWithin *keys *values *entries
+  *toReversed *toSorted *with *toString *toLocaleString *from *of`;
+
 const xhr = `
   #readyState #status #statusText #responseText #responseType #responseXML #response #responseURL
   #timeout #withCredentials #onload #onerror #onprogress #onreadystatechange +upload
@@ -124,7 +137,7 @@ const style = `
 
 export const objects = [
   // the page and its window
-  object('document', 'Document', `
+  ...['document', 'contentDocument', 'ownerDocument'].map((name) => object(name, 'Document', `
     #title #cookie #URL #domain #referrer #lastModified #readyState #characterSet #charset
     #compatMode #contentType #dir #designMode #hidden #visibilityState #bgColor #fgColor
     #linkColor #alinkColor #vlinkColor
@@ -136,7 +149,7 @@ export const objects = [
     *createTextNode *createComment *createDocumentFragment *createAttribute *createEvent
     *createRange *createTreeWalker *importNode *adoptNode *elementFromPoint *execCommand
     *getSelection *hasFocus *appendChild *addEventListener *removeEventListener *dispatchEvent`,
-  '+layers'),
+  '+layers')),
   object('window', 'Window', window, '+console'),
   object('self', 'Window', window, '+console'),
   object('parent', 'Window', window, '+console'),
@@ -165,17 +178,31 @@ export const objects = [
   object('performance', 'Performance', `#timeOrigin +timing +navigation *now *mark *measure
     *clearMarks *clearMeasures *getEntries *getEntriesByName *getEntriesByType *toJSON`),
   object('crypto', 'Crypto', '+subtle *getRandomValues *randomUUID'),
+  object('customElements', 'CustomElementRegistry', '*define *get *getName *whenDefined *upgrade'),
+  object('mediaDevices', 'MediaDevices', '*getUserMedia *enumerateDevices *getDisplayMedia'),
+  object('permissions', 'Permissions', '*query'),
+  object('serviceWorker', 'ServiceWorkerContainer', `+controller +ready *register *getRegistration
+    *getRegistrations`),
+  object('contentWindow', 'Window', window, '+console'),
+  object('defaultView', 'Window', window, '+console'),
   object('console', 'console', `*log *info *warn *error *debug *assert *clear *count *countReset
     *dir *dirxml *group *groupCollapsed *groupEnd *table *time *timeEnd *timeLog *trace`),
   object('localStorage', 'Storage', storage),
   object('sessionStorage', 'Storage', storage),
 
   // nodes and elements
-  object('node', 'Node', node),
-  object('element', 'HTMLElement', element),
-  object('el', 'HTMLElement', element),
+  object('node', 'Node', node, '', { whole: true }),
+  ...['parentNode', 'firstChild', 'lastChild', 'nextSibling', 'previousSibling', 'element', 'el',
+    'parentElement', 'firstElementChild', 'lastElementChild', 'nextElementSibling',
+    'previousElementSibling', 'offsetParent', 'documentElement', 'head', 'frameElement', 'shadowRoot',
+  ].map((name) => object(name, name === 'shadowRoot' ? 'ShadowRoot HTMLElement' : 'HTMLElement',
+    element, '', { fill: name === 'shadowRoot' ? 'ShadowRoot' : 'HTMLElement', whole: true })),
+  // What a script most likely has before it there: an element, often one of a form.
+  ...['this', 'target', 'currentTarget', 'srcElement', 'relatedTarget', 'activeElement']
+    .map((name) => object(name, `HTMLElement HTMLInputElement HTMLSelectElement HTMLAnchorElement
+      HTMLImageElement`, `#value #name #type #checked #disabled #selectedIndex +form +options #href
+      #src ${element} *select`, '', { fill: 'HTMLElement', whole: true })),
   object('body', 'HTMLBodyElement', `#bgColor #background #text #link #vLink #aLink ${element}`),
-  object('documentElement', 'HTMLElement', element),
   object('attributes', 'NamedNodeMap Attr', `#length #name #value *item *getNamedItem *setNamedItem
     *removeNamedItem`),
   object('childNodes', 'NodeList Node', `#length #nodeName #nodeType #nodeValue *item *forEach
@@ -281,15 +308,15 @@ export const objects = [
     *padStart *padEnd *trim *trimStart *trimEnd *toLowerCase *toUpperCase *toLocaleLowerCase
     *toLocaleUpperCase *localeCompare *match *matchAll *search *replace *replaceAll *normalize
     *anchor *big *blink *bold *fixed *fontcolor *fontsize *italics *link *small *strike *sub *sup
-    *toString *valueOf *fromCharCode *fromCodePoint *raw`),
+    *isWellFormed *toWellFormed *toString *valueOf *fromCharCode *fromCodePoint *raw`),
   object('Array', 'core:Array', `#length *push *pop *shift *unshift *splice *slice *concat *join
     *reverse *sort *indexOf *lastIndexOf *includes *find *findIndex *findLast *findLastIndex
     *forEach *map *filter *reduce *reduceRight *some *every *flat *flatMap *fill *copyWithin *at
     *keys *values *entries *toReversed *toSorted *toSpliced *with *toString *toLocaleString
     *isArray *from *of`),
   object('RegExp', 'core:RegExp', `#source #flags #global #ignoreCase #multiline #sticky #unicode
-    #dotAll #hasIndices #lastIndex *test *exec *compile *toString #$1 #$2 #$3 #$4 #$5 #$6 #$7 #$8
-    #$9 #lastMatch #lastParen #leftContext #rightContext`, '#lastIndex'),
+    #dotAll #hasIndices #unicodeSets #lastIndex *test *exec *compile *toString #$1 #$2 #$3 #$4 #$5 #$6 #$7 #$8
+    #$9 #input #lastMatch #lastParen #leftContext #rightContext`, '#lastIndex'),
   object('Number', 'core:Number', `#MAX_VALUE #MIN_VALUE #MAX_SAFE_INTEGER #MIN_SAFE_INTEGER
     #EPSILON #NaN #POSITIVE_INFINITY #NEGATIVE_INFINITY *toFixed *toPrecision *toExponential
     *toString *toLocaleString *valueOf *isInteger *isSafeInteger *isFinite *isNaN *parseFloat
@@ -303,12 +330,34 @@ export const objects = [
     *propertyIsEnumerable *toString *toLocaleString *valueOf`),
   object('Function', 'core:Function', `#length #name #arguments #caller +prototype *apply *bind
     *call *toString`),
-  object('Error', 'core:Error', '#name #message #stack #cause *toString', '#stack #cause'),
+  ...['Error', 'EvalError', 'RangeError', 'ReferenceError', 'SyntaxError', 'TypeError', 'URIError']
+    .map((name) => object(name, 'core:Error', '#name #message #stack #cause *toString',
+      '#stack #cause')),
+  object('AggregateError', 'core:AggregateError', `#name #message #errors #stack #cause *toString`,
+    '#stack #cause #errors'),
+  object('DOMException', 'DOMException', '#name #message #code'),
   object('Symbol', 'core:Symbol', `#description #iterator #asyncIterator #hasInstance #toPrimitive
-    #toStringTag *for *keyFor *toString`),
+    #toStringTag #isConcatSpreadable #match #matchAll #replace #search #species #split #unscopables
+    *for *keyFor *toString *valueOf`),
   object('JSON', 'core:JSON', '*parse *stringify'),
   object('Promise', 'core:Promise', `*then *catch *finally *all *allSettled *any *race *resolve
     *reject`),
+  object('Proxy', 'core:Proxy', '*revocable'),
+  object('ArrayBuffer', 'core:ArrayBuffer', `#byteLength #maxByteLength #resizable *slice *resize
+    *isView`),
+  object('SharedArrayBuffer', 'core:SharedArrayBuffer', `#byteLength #maxByteLength #growable *slice
+    *grow`),
+  object('DataView', 'core:DataView', `+buffer #byteLength #byteOffset *getInt8 *getUint8 *getInt16
+    *getUint16 *getInt32 *getUint32 *getFloat32 *getFloat64 *getBigInt64 *getBigUint64 *setInt8
+    *setUint8 *setInt16 *setUint16 *setInt32 *setUint32 *setFloat32 *setFloat64 *setBigInt64
+    *setBigUint64`),
+  ...['Int8Array', 'Uint8Array', 'Uint8ClampedArray', 'Int16Array', 'Uint16Array', 'Int32Array',
+    'Uint32Array', 'Float32Array', 'Float64Array', 'BigInt64Array', 'BigUint64Array',
+  ].map((name) => object(name, `core:${name}`, typedArray)),
+  object('Atomics', 'core:Atomics', `*add *and *compareExchange *exchange *isLockFree *load *notify
+    *or *store *sub *wait *waitAsync *xor`),
+  object('WeakRef', 'core:WeakRef', '*deref'),
+  object('FinalizationRegistry', 'core:FinalizationRegistry', '*register *unregister'),
   object('Map', 'core:Map', `#size *get *set *has *delete *clear *forEach *keys *values *entries`),
   object('Set', 'core:Set', '#size *add *has *delete *clear *forEach *keys *values *entries'),
   object('WeakMap', 'core:WeakMap', '*get *set *has *delete'),
@@ -345,4 +394,25 @@ export const objects = [
     #onmessage #onerror #onclose *send *close ${eventTarget}`),
   object('Worker', 'Worker', `#onmessage #onerror *postMessage *terminate ${eventTarget}`),
   object('DOMParser', 'DOMParser', '*parseFromString'),
+  object('XMLSerializer', 'XMLSerializer', '*serializeToString'),
+  object('EventSource', 'EventSource', `#url #readyState #onopen #onmessage #onerror *close
+    ${eventTarget}`),
+  object('BroadcastChannel', 'BroadcastChannel', `#name #onmessage *postMessage *close
+    ${eventTarget}`),
+  object('MessageChannel', 'MessageChannel', '+port1 +port2'),
+  object('TextEncoder', 'TextEncoder', '#encoding *encode *encodeInto'),
+  object('TextDecoder', 'TextDecoder', '#encoding #fatal #ignoreBOM *decode'),
+  object('Notification', 'Notification', `#title #body #permission *requestPermission *close
+    ${eventTarget}`),
+  object('caches', 'CacheStorage', '*open *has *delete *keys *match'),
+
+  // a browser's own store
+  object('indexedDB', 'IDBFactory', '*open *deleteDatabase *databases *cmp'),
+  object('db', 'IDBDatabase', `#name #version +objectStoreNames *createObjectStore
+    *deleteObjectStore *transaction *close`),
+  object('transaction', 'IDBTransaction', '#mode +db +error *objectStore *commit *abort'),
+  object('objectStore', 'IDBObjectStore', `#name #keyPath #autoIncrement +indexNames *add *put *get
+    *getAll *delete *clear *count *openCursor *index *createIndex *deleteIndex`),
+  object('cursor', 'IDBCursorWithValue IDBCursor', `#key #primaryKey #value #direction *continue
+    *advance *update *delete`),
 ];

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 
 // Blocks of interchangeable words, one a line; "|" parts the words. A word may stand in several
-// blocks, but only the first of them is ever found by it: the order of the blocks is a choice.
+// blocks, but only the first of them is ever found by it: of such words `meant` below says which
+// block that has to be, and the check fails if the order of the blocks leads them elsewhere.
 // All words take over the case of the selection, so a block holds either lower case words or
-// names with capitals inside, and never both.
+// names with capitals inside, and never both; of character names with both cases the block holds
+// the capitals, since a selection in lower case turns them all.
 
 const blocks = `
 left|center|right|justify
@@ -14,16 +16,13 @@ get|post|dialog
 yes|no
 true|false
 on|off
-auto|scroll|hidden|visible|clip
 normal|bold|bolder|lighter
 100|200|300|400|500|600|700|800|900
 italic|oblique|normal
 underline|overline|line-through|none
 uppercase|lowercase|capitalize|none
-solid|dashed|dotted|double|groove|ridge|inset|outset|none|hidden
 static|relative|absolute|fixed|sticky
-both|left|right|none
-visible|hidden|collapse
+both|left|right|inline-start|inline-end|none
 nowrap|pre|pre-wrap|pre-line|break-spaces|normal
 black|silver|gray|white|maroon|red|purple|fuchsia|green|lime|olive|yellow|navy|blue|teal|aqua
 magenta|cyan|orange|brown|pink|gold|violet|turquoise|beige|ivory|khaki|indigo
@@ -43,7 +42,6 @@ snow|ghostwhite|floralwhite|linen|antiquewhite|oldlace|seashell|mintcream|azure|
 #FF0000|#FF9900|#FFFF00|#99FF00|#00FF00|#00FF99|#00FFFF|#0099FF|#0000FF|#9900FF|#FF00FF|#FF0099
 transparent|currentcolor
 inherit|initial|unset|revert
-px|pt|em|rem|ex|ch|pc|cm|mm|in|vw|vh|vmin|vmax|fr
 deg|rad|grad|turn
 s|ms
 dpi|dpcm|dppx
@@ -55,26 +53,24 @@ Arial|Verdana|Helvetica|Tahoma|Georgia|Times|Courier|Palatino|Garamond
 disc|circle|square|none
 decimal|decimal-leading-zero|lower-alpha|upper-alpha|lower-latin|upper-latin|lower-roman|upper-roman|lower-greek
 inside|outside
-repeat|repeat-x|repeat-y|no-repeat|space|round
-cover|contain|auto
 content-box|padding-box|border-box
-default|pointer|crosshair|move|text|wait|help|progress|not-allowed|grab|grabbing|zoom-in|zoom-out
 n-resize|ne-resize|e-resize|se-resize|s-resize|sw-resize|w-resize|nw-resize|col-resize|row-resize
-always|avoid|left|right|auto
 separate|collapse
 show|hide
 flex-start|flex-end|center|space-between|space-around|space-evenly|stretch|baseline
 row-reverse|row|column|column-reverse
 wrap|nowrap|wrap-reverse
-fill|contain|cover|scale-down|none
 ease|linear|ease-in|ease-out|ease-in-out|step-start|step-end
 forwards|backwards|both|none
-alternate|alternate-reverse|reverse|normal
 ellipsis|clip
+auto|scroll|hidden|visible|clip
+solid|dashed|dotted|double|groove|ridge|inset|outset|none|hidden
+cover|contain|auto
+always|avoid|left|right|auto
+fill|contain|cover|scale-down|none
 break-word|break-all|keep-all|anywhere|normal
 bidi-override|embed|isolate|isolate-override|plaintext|normal
 horizontal-tb|vertical-rl|vertical-lr
-multiply|screen|overlay|darken|lighten|color-dodge|color-burn|hard-light|soft-light|difference|exclusion
 rotate|scale|skew|translate|matrix|perspective
 blur|brightness|contrast|drop-shadow|grayscale|hue-rotate|invert|opacity|saturate|sepia
 rgb|rgba|hsl|hsla
@@ -82,6 +78,7 @@ link|visited|hover|active|focus
 first-child|last-child|only-child|nth-child|first-of-type|last-of-type|nth-of-type
 before|after|first-line|first-letter|selection
 all|screen|print|projection|handheld|speech|aural|braille|embossed|tty|tv
+multiply|screen|overlay|darken|lighten|color-dodge|color-burn|hard-light|soft-light|difference|exclusion
 portrait|landscape
 min-width|max-width|min-height|max-height
 width|height
@@ -95,11 +92,12 @@ text-align|text-decoration|text-indent|text-transform|text-shadow
 color|background-color|border-color|outline-color
 background-image|background-repeat|background-position|background-attachment|background-size
 list-style-type|list-style-position|list-style-image
-rect|circle|poly|default
 void|above|below|hsides|vsides|lhs|rhs|box|border
 groups|rows|cols|all|none
 col|row|colgroup|rowgroup
 text|password|checkbox|radio|submit|reset|button|hidden|file|image
+default|pointer|crosshair|move|text|wait|help|progress|not-allowed|grab|grabbing|zoom-in|zoom-out
+rect|circle|poly|default
 email|url|tel|search|number|range|date|time|datetime-local|month|week|color
 soft|hard|off|physical|virtual
 multipart/form-data|application/x-www-form-urlencoded|text/plain
@@ -109,46 +107,41 @@ audio/mpeg|audio/ogg|audio/wav|audio/midi|audio/aac|audio/webm
 video/mp4|video/webm|video/ogg|video/mpeg|video/quicktime|video/x-msvideo
 application/xhtml+xml|application/xml|application/json|application/pdf|application/zip|application/octet-stream
 utf-8|iso-8859-1|iso-8859-15|windows-1252|us-ascii|utf-16
-de|en|fr|it|es|nl|da|sv|pl|cs|pt|tr|ru
 de-de|de-at|de-ch
 ltr|rtl
 index|noindex|follow|nofollow|noarchive|nosnippet|noimageindex
 content-type|content-language|content-style-type|content-script-type|content-security-policy|refresh|expires|pragma|cache-control|set-cookie|pics-label
 author|description|keywords|robots|generator|copyright|date|viewport|language|publisher|revisit-after
-stylesheet|alternate|icon|start|next|prev|contents|glossary|copyright|chapter|section|subsection|appendix|help|bookmark|preload|canonical|license
 noopener|noreferrer|nofollow|external|sponsored|ugc
 no-referrer|origin|same-origin|strict-origin|strict-origin-when-cross-origin|no-referrer-when-downgrade|unsafe-url
 anonymous|use-credentials
 allow-scripts|allow-forms|allow-popups|allow-same-origin|allow-modals|allow-downloads|allow-top-navigation
 lazy|eager
-metadata|auto|none
-subtitles|captions|descriptions|chapters
+subtitles|captions|descriptions|chapters|metadata
 given-name|family-name|street-address|postal-code|country|username|current-password|new-password
-numeric|decimal|tel|url|email|search
-scroll|slide|alternate
 up|down|left|right
-accept|prev|help|reset|options|delete|unknown
 sync|async
-http|https|ftp|mailto|news|javascript|file
 .gif|.jpg|.jpeg|.png|.webp|.svg|.avif|.ico|.wbmp
 .htm|.html|.xhtml|.php|.asp|.wml|.css|.js
-banner|navigation|main|complementary|contentinfo|search|form|region
-presentation|img|alert|status|tooltip|tablist|tab|tabpanel|menubar|menuitem
 h1|h2|h3|h4|h5|h6
 b|strong|i|em|u|ins|del|strike
 big|small|sup|tt
-code|kbd|samp|var|pre
 ul|ol|dl|dir|menu
 li|dt|dd
 td|th
 thead|tbody|tfoot|tr
+de|en|fr|it|es|nl|da|sv|pl|cs|pt|tr|ru
+px|pt|em|rem|ex|ch|pc|cm|mm|in|vw|vh|vmin|vmax|fr
 header|footer|nav|article|section|aside|main
+banner|navigation|main|complementary|contentinfo|search|form|region
 div|span|p
 input|select|textarea|button
 object|applet|iframe
 audio|video|picture|canvas
 javascript|vbscript|jscript
+http|https|ftp|mailto|news|javascript|file
 var|let|const
+code|kbd|samp|var|pre
 if|else|switch|case
 for|while|do
 break|continue|return
@@ -161,6 +154,7 @@ typeof|instanceof|new|delete
 ++|--
 +=|-=|*=|/=|%=
 alert|confirm|prompt
+presentation|img|alert|status|tooltip|tablist|tab|tabpanel|menubar|menuitem
 write|writeln|open|close
 getElementById|getElementsByName|getElementsByTagName|getElementsByClassName|querySelector|querySelectorAll
 setTimeout|setInterval|clearTimeout|clearInterval|requestAnimationFrame
@@ -180,10 +174,10 @@ substring|substr|slice|split
 indexOf|lastIndexOf|charAt|charCodeAt
 toUpperCase|toLowerCase
 parseInt|parseFloat
-push|pop|shift|unshift|splice|reverse|sort|join|concat
 map|filter|reduce|some|every|find
 forEach|findIndex|flatMap|reduceRight
 floor|ceil|round|trunc
+repeat|repeat-x|repeat-y|no-repeat|space|round
 min|max|abs|sqrt|pow|random
 sin|cos|tan|asin|acos|atan
 getFullYear|getMonth|getDate|getDay|getHours|getMinutes|getSeconds|getTime
@@ -194,12 +188,15 @@ onkeydown|onkeyup|onkeypress
 onload|onunload|onbeforeunload|onresize|onscroll|onerror
 onfocus|onblur|onchange|oninput|onselect|onsubmit|onreset
 onenterforward|onenterbackward|ontimer|onpick
-butt|round|square
-miter|bevel|round
+butt|round|square|miter|bevel
 start|middle|end
+stylesheet|alternate|icon|start|next|prev|contents|glossary|copyright|chapter|section|subsection|appendix|help|bookmark|preload|canonical|license
+alternate|alternate-reverse|reverse|normal
+accept|prev|help|reset|options|delete|unknown
+push|pop|shift|unshift|splice|reverse|sort|join|concat
 line|polyline|polygon|path|ellipse
 &lt;|&gt;|&amp;|&quot;|&apos;|&nbsp;
-&auml;|&ouml;|&uuml;|&szlig;
+&Auml;|&Ouml;|&Uuml;|&szlig;
 &copy;|&reg;|&trade;
 &euro;|&cent;|&pound;|&yen;
 &laquo;|&raquo;|&bdquo;|&ldquo;|&rdquo;|&lsquo;|&rsquo;
@@ -215,3 +212,43 @@ const wordsOf = (line) => line.replaceAll('||||', '|\u0000|').split('|')
   .map((word) => word.replace('\u0000', '||'));
 
 export const wordBlocks = blocks.trim().split('\n').map(wordsOf);
+
+/** The words of several blocks behind the block that they most likely stand for. */
+export const meant = [
+  ['left|center|right', 'left center right'],
+  ['top|middle|bottom', 'middle baseline'],
+  ['block|inline|inline-block', 'none contents'],
+  ['on|off', 'off'],
+  ['auto|scroll|hidden', 'auto hidden'],
+  ['ellipsis|clip', 'clip'],
+  ['normal|bold|bolder', 'normal'],
+  ['both|left|right', 'both'],
+  ['nowrap|pre|pre-wrap', 'nowrap pre'],
+  ['magenta|cyan|orange', 'orange pink gold'],
+  ['saddlebrown|sienna|chocolate', 'tan'],
+  ['de|en|fr', 'pt fr'],
+  ['b|strong|i', 'em'],
+  ['xx-small|x-small|small', 'small medium'],
+  ['disc|circle|square', 'circle square'],
+  ['floor|ceil|round', 'round'],
+  ['cover|contain|auto', 'cover contain'],
+  ['default|pointer|crosshair', 'default help'],
+  ['text|password|checkbox', 'text reset button file'],
+  ['row-reverse|row|column', 'row'],
+  ['stylesheet|alternate|icon', 'alternate prev'],
+  ['alternate|alternate-reverse|reverse', 'reverse'],
+  ['all|screen|print', 'screen all'],
+  ['margin|padding|border', 'border'],
+  ['border-width|border-style|border-color', 'border-color'],
+  ['color|background-color|border-color', 'color'],
+  ['email|url|tel', 'search date'],
+  ['thead|tbody|tfoot', 'tr'],
+  ['index|noindex|follow', 'nofollow'],
+  ['author|description|keywords', 'copyright'],
+  ['start|middle|end', 'start'],
+  ['header|footer|nav', 'section main'],
+  ['typeof|instanceof|new', 'delete'],
+  ['javascript|vbscript|jscript', 'javascript'],
+  ['alert|confirm|prompt', 'alert'],
+  ['var|let|const', 'var'],
+];
