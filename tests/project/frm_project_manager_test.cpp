@@ -127,8 +127,8 @@ private slots:
         QStringList keys = ColumnOf(FileList(), Type);
         QVERIFY(std::is_sorted(keys.cbegin(), keys.cend()));
         // missing files first, each reached file once, external links last
-        QCOMPARE(names.first(2), (QStringList{u"gruendung1951.jpg"_s, u"fotos.htm"_s}));
-        QCOMPARE(keys.count(u"aaa"_s), 2);
+        QCOMPARE(names.first(), u"fotos.htm"_s);
+        QCOMPARE(keys.count(u"aaa"_s), 1);
         for (const QString& page :
              {u"index.htm"_s, u"neuigkeiten.html"_s, u"termine.htm"_s, u"vorstand.html"_s, u"satzung.htm"_s,
               u"beitrag.htm"_s, u"lageplan.htm"_s, u"geschichte.htm"_s, u"kontakt.htm"_s, u"rahmen.htm"_s,
@@ -239,6 +239,8 @@ private slots:
             Answer::Ok, Dialogs::Icon::Exclamation);
         Press(u"GoTo"_s);
         // a missing file that another page links to
+        QFile::remove(m_folder->System(u"verein/bilder/gruendung1951.jpg"_s));
+        Shared<Frm_ProjectManager>().SearchLinks();
         const QModelIndex missing = ClickRow(FileList(), u"gruendung1951.jpg"_s);
         const QString holder = Cell(missing, LinkedFrom);
         const QString link = Cell(missing, LinkName);

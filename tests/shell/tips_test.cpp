@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+// The shipped tips and the handbook against the menu: what they name is there and can be chosen.
+#include "shell/tips.h"
+
+#include "platform/code_page.h"
+#include "platform/literals.h"
+#include "shell/activation.h"
+#include "shell/commands.h"
+#include "shell/global.h"
+#include "support/program_folder.h"
+#include "support/test_registry.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHash>
+#include <QRegularExpression>
+#include <algorithm>
+#include <bitset>
+
+namespace {
+
+// A menu item by its path, such as "Einfügen / Tabelle / Tabelle einfügen...".
+struct Item {
+    QStringList names; // object names from the menu bar down to the item
+    QString keys;      // as the tips write them: "Umschalt+Strg+F5"
+    bool visible;      // at start
+};
+
+QString KeysOf(const Commands::MenuRow& row) {
+    QStringList keys = row.shortcut.toString().split(u'+', Qt::SkipEmptyParts);
+    if (keys.removeOne(u"Ctrl"_s)) keys.prepend(u"Strg"_s);
+    if (keys.removeOne(u"Shift"_s)) keys.prepend(u"Umschalt"_s);
+    return keys.join(u'+');
+}
+
+QHash<QString, Item> Items() {
+    Commands::ResetStates();
+    QHash<QString, Item> items;
+    QStringList captions;
+    QStringList names;
+    for (const Commands::MenuRow& row : Commands::MenuTree()) {
+        if (row.name.isEmpty()) continue;
+        captions = captions.mid(0, row.level) << row.caption.toString().remove(u'&');
+        names = names.mid(0, row.level) << row.name.toString();
+        const bool visible = std::all_of(names.cbegin(), names.cend(),
+                                         [](const QString& name) { return Commands::StateOf(name).visible; });
+        items.insert(captions.join(u" / "_s), {names, KeysOf(row), visible});
+    }
+    return items;
+}
+
+// Whether there is a state of the program in which the item and all menus above it are open.
+bool CanBeChosen(const Item& item) {
+    for (unsigned long bits = 0; bits < 256; ++bits) {
+        const std::bitset<8> b(bits);
+        Commands::ResetStates();
+        Activation::Apply(Activation::Evaluate({b[0], b[1], b[2], b[3], b[4], b[5], b[6], b[7]}));
+        if (std::all_of(item.names.cbegin(), item.names.cend(),
+                        [](const QString& name) { return Commands::StateOf(name).enabled; })) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// What is wrong with the commands that a tip names; empty if nothing is. A command stands in German quotes as
+// its path in the menu, with " / " between the levels, and its keys may follow in brackets.
+QString FaultOf(const QString& tip) {
+    static const QHash<QString, Item> items = Items();
+    static const QRegularExpression quoted(u"„([^“]*)“(?: \\(([^)]*)\\))?"_s);
+    for (auto hit = quoted.globalMatch(tip); hit.hasNext();) {
+        const QRegularExpressionMatch match = hit.next();
+        const QString path = match.captured(1);
+        if (path.contains(u" / ")) {
+            const auto item = items.constFind(path);
+            if (item == items.cend()) return u"not in the menu: "_s + path;
+            if (!item->visible) return u"hidden: "_s + path;
+            if (!CanBeChosen(*item)) return u"never open: "_s + path;
+            const QString keys = match.captured(2);
+            if (!keys.isEmpty() && keys != item->keys) return u"other keys: "_s + path;
+            continue;
+        }
+        for (auto item = items.cbegin(); item != items.cend(); ++item) {
+            const QString caption = item.key().section(u" / "_s, -1);
+            if (!item->visible) continue;
+            if (caption == path || caption == path + u"...") return u"named without its menu: "_s + path;
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+class TipsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void nameCommandsOfTheMenu() {
+        const ProgramFolder folder;
+        QVERIFY(Tips::LoadTips());
+        const int count = Global::TipList[0].toInt();
+        QVERIFY(count > 50);
+        int paths = 0;
+        for (int i = 1; i <= count; ++i) {
+            const QString& tip = Global::TipList[static_cast<size_t>(i)];
+            paths += tip.contains(u" / ") ? 1 : 0;
+            const QString fault = FaultOf(tip);
+            QVERIFY2(fault.isEmpty(), qPrintable(u"tip %1, %2"_s.arg(i).arg(fault)));
+        }
+        QVERIFY(paths > 40); // the check has had something to look at
+    }
+
+    void handbookNamesCommandsOfTheMenu() {
+        static const QRegularExpression way(u"<span class=\"weg\">([^<]*&rarr;[^<]*)</span>"_s);
+        int paths = 0;
+        const QDir pages(SourceFile(u"data/support"_s));
+        for (const QString& name : pages.entryList({u"*.htm"_s})) {
+            QFile file(pages.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QString page = CodePage::FromWindows1252(file.readAll());
+            for (auto hit = way.globalMatch(page); hit.hasNext(); ++paths) {
+                const QString path = hit.next().captured(1).replace(u"&rarr;"_s, u"/"_s);
+                const QString fault = FaultOf(u'„' + path + u'“');
+                // it tells when a hidden one shows
+                QVERIFY2(fault.isEmpty() || fault.startsWith(u"hidden"), qPrintable(name + u": "_s + fault));
+            }
+        }
+        QVERIFY(paths > 40);
+    }
+
+    void faultsAreFound_data() {
+        QTest::addColumn<QString>("tip");
+        QTest::addColumn<QString>("fault");
+        QTest::newRow("right") << u"„Einfügen / Tag schließen“ (Strg+E) und „Tipp“"_s << u""_s;
+        QTest::newRow("misspelt") << u"„Einfügen / Tabbelle“"_s << u"not in the menu"_s;
+        QTest::newRow("other menu") << u"„Tools / Tag schließen“"_s << u"not in the menu"_s;
+        QTest::newRow("hidden") << u"„Tools / Rechtschreibung prüfen...“"_s << u"hidden"_s;
+        QTest::newRow("keys") << u"„Einfügen / Tag schließen“ (Strg+U)"_s << u"other keys"_s;
+        QTest::newRow("no menu") << u"Mit „Suchen“ finden Sie etwas."_s << u"named without its menu"_s;
+    }
+    void faultsAreFound() {
+        QFETCH(QString, tip);
+        QFETCH(QString, fault);
+        const QString found = FaultOf(tip);
+        QVERIFY2(fault.isEmpty() ? found.isEmpty() : found.startsWith(fault), qPrintable(found));
+    }
+};
+
+REGISTER_TEST_AS(Tips, TipsTest);
+#include "tips_test.moc"
