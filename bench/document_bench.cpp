@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Opening, typing, changing tags and saving at three sizes, in the real program: processor time, and its
 // growth from size to size. A typed character is counted from the key to the painted window, with both its
-// undo copies.
+// undo copies. Then Ctrl+E and word completion on texts made for them.
 #include "documents/code_access.h"
 #include "documents/document_commands.h"
 #include "documents/frm_code.h"
+#include "documents/text_buffer.h"
 #include "platform/literals.h"
 #include "shell/frm_main.h"
 #include "shell/global.h"
+#include "shell/neighbours.h"
 #include "support/driver.h"
 #include "support/program_folder.h"
 
@@ -48,6 +50,51 @@ void Print(const Row& row) {
     std::printf("\n");
 }
 
+// Ctrl+E at the end of a text of that many characters.
+double CloseTag(const QString& piece, const QString& end, int size) {
+    TextBuffer box(piece.repeated(size / piece.size()) + end);
+    Neighbours::TheCodeBox.AnsweredBy([&box] { return &box; });
+    const auto caret = static_cast<double>(box.Text().size());
+    const double time = ProcessorMilliseconds([&] { CodeAccess::CloseOpenTag(caret); });
+    Neighbours::TheCodeBox.AnsweredBy([] { return Shared<Frm_Code>().TextBox; });
+    return time;
+}
+
+// Control+Space behind the letter that so many words begin with, to the painted list.
+double CompleteWord(int words) {
+    QString text = u" "_s;
+    for (int i = 0; i < words; ++i) {
+        text += u'w';
+        for (int rest = i; rest > 0; rest /= 26) text += QChar(u'a' + rest % 26);
+        text += i % 10 == 9 ? u"\r\n"_s : u" "_s;
+    }
+    Txt_Code& box = *Shared<Frm_Code>().TextBox;
+    box.SetText(text + u"w ");
+    box.SetSelStart(box.Text().size() - 1);
+    QCoreApplication::processEvents();
+    const double time = ProcessorMilliseconds([] {
+        Neighbours::OpenAutoWord(0);
+        QCoreApplication::processEvents();
+    });
+    Neighbours::HidePopupList();
+    return time;
+}
+
+void MeasureAids() {
+    Row skipped{"Ctrl+E behind <br>", {}}, open{"Ctrl+E behind <br , one >", {}},
+        ordinary{"Ctrl+E behind <b>", {}}, words{"word completion", {}};
+    for (const int size : {100'000, 400'000, 1'600'000}) {
+        skipped.times.push_back(CloseTag(u"<br>"_s, {}, size));
+        open.times.push_back(CloseTag(u"<br "_s, u">"_s, size));
+        ordinary.times.push_back(CloseTag(u"<b>x</b>"_s, u"<b>"_s, size));
+        words.times.push_back(CompleteWord(size / 40));
+    }
+    std::printf("Processor milliseconds                0.1 MB      0.4 MB      1.6 MB   growth\n");
+    for (const Row& row : {skipped, open, ordinary}) Print(row);
+    std::printf("                                 2,500 words      10,000      40,000\n");
+    Print(words);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -86,5 +133,6 @@ int main(int argc, char** argv) {
     }
     std::printf("Processor milliseconds                0.1 MB        1 MB       10 MB   growth\n");
     for (const Row& row : {open, key, undo, lower, save}) Print(row);
+    MeasureAids();
     return 0;
 }

@@ -14,6 +14,7 @@
 #include <QSet>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace HTMLAccess {
 
@@ -49,6 +50,7 @@ QString CommaToPoint(QString number) {
 bool FileExists(const QString& path) { return Files::CanRead(path); }
 
 QString NumberToBinary(double number) {
+    if (!std::isfinite(number)) throw RuntimeError("no digits for this number");
     QString digits;
     for (double rest = std::floor(number); rest > 0; rest = std::floor(rest / 2)) {
         digits.append(std::fmod(rest, 2) == 0 ? u'0' : u'1');
@@ -90,6 +92,22 @@ void GoToLink(const QString& link) {
 
 namespace {
 
+QString InTheCodePage(QString changed, QStringView text) {
+    if (Global::DocumentFormat.encoding != CodePage::Encoding::Windows1252) return changed;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (CodePage::ByteOf(changed[i]) < 0 && CodePage::ByteOf(text[i]) >= 0) changed[i] = text[i];
+    }
+    return changed;
+}
+
+} // namespace
+
+QString UpperCase(QStringView text) { return InTheCodePage(Text::UpperCase(text), text); }
+
+QString LowerCase(QStringView text) { return InTheCodePage(Text::LowerCase(text), text); }
+
+namespace {
+
 // Where the name of the tag that begins at `tag` ends: its ">", or a blank before that; 0 when no ">"
 // follows.
 qsizetype EndOfTagName(qsizetype close, qsizetype blank) {
@@ -124,38 +142,58 @@ QString ChangeTagCase(QString& page, QString (*change)(QStringView)) {
 
 } // namespace
 
-QString LowerCaseTags(QString& page) { return ChangeTagCase(page, &Text::LowerCase); }
+QString LowerCaseTags(QString& page) { return ChangeTagCase(page, &LowerCase); }
 
-QString UpperCaseTags(QString& page) { return ChangeTagCase(page, &Text::UpperCase); }
+QString UpperCaseTags(QString& page) { return ChangeTagCase(page, &UpperCase); }
+
+namespace {
+
+// The name of the tag whose inside, between "<" and ">", is `inside`.
+QString TagName(QStringView inside) {
+    const qsizetype blank = inside.indexOf(u' ');
+    if (blank >= 0) inside.truncate(blank);
+    for (const QStringView stop : {Text::LineBreak, QStringView(u"\t")}) {
+        const qsizetype at = inside.indexOf(stop);
+        if (at > 0) inside.truncate(at);
+    }
+    // a comment's text may begin without a blank
+    return inside.startsWith(u"!--") ? u"!--"_s : inside.toString();
+}
+
+// The name of the open tag that a closing tag at `position` would close; nothing when there is none. Each tag
+// must end before the place that the walk has come to, so the walk passes over the text once.
+std::optional<QString> OpenTagBefore(QStringView text, qsizetype position) {
+    const QString noClose = Text::UpperCase(Global::NoCloseTagString);
+    QHash<QString, bool> answers;
+    while (position >= 1) {
+        const qsizetype tag = Text::FindBack(text, u"<", position);
+        if (tag == 0) break;
+        const QStringView behind = text.first(std::min(position, text.size())).sliced(tag);
+        const qsizetype close = behind.indexOf(u'>');
+        if (close < 0) break; // the place lies inside this tag
+        const QString name = TagName(behind.first(close));
+        if (name.startsWith(u'/')) break;
+        auto answer = answers.constFind(name);
+        if (answer == answers.constEnd()) {
+            answer = answers.insert(name, noClose.contains(u'ß' + Text::UpperCase(name) + u'ß'));
+        }
+        if (!*answer) return name;
+        position = tag - 1;
+    }
+    return std::nullopt;
+}
+
+} // namespace
 
 void CloseOpenTag(double position) {
     CodeBox* box = Neighbours::TheCodeBox();
     if (!box) return;
-    const QString text = box->Text();
-    const QString noClose = Text::UpperCase(Global::NoCloseTagString);
+    const auto name = OpenTagBefore(box->Text(), static_cast<qsizetype>(position));
+    if (!name) return;
     Attempt([&] {
-        auto from = static_cast<qsizetype>(position);
-        for (;;) {
-            const qsizetype tag = Text::FindBack(text, u"<", from);
-            if (tag == 0) return;
-            const qsizetype close = Text::Find(text, u">", tag);
-            if (close == 0 || close > static_cast<qsizetype>(position)) return;
-            QString name = text.sliced(tag, close - tag - 1);
-            name = name.section(u' ', 0, 0);
-            for (const QStringView stop : {Text::LineBreak, QStringView(u"\t")}) {
-                const qsizetype at = name.indexOf(stop);
-                if (at > 0) name.truncate(at);
-            }
-            if (name.startsWith(u'/')) return;
-            if (name.startsWith(u"!--")) name = u"!--"_s; // a comment's text may begin without a blank
-            if (!noClose.contains(u'ß' + Text::UpperCase(name) + u'ß')) {
-                Undo::PushUndo();
-                box->SetSelLength(0);
-                box->SetSelText(u"</"_s + name + u'>');
-                return;
-            }
-            from = tag - 1;
-        }
+        Undo::PushUndo();
+        box->SetSelLength(0);
+        box->SetSelText(u"</"_s + *name + u'>');
     });
 }
 
@@ -181,15 +219,17 @@ double CalculateSelection(const QString& text, Calculation mode) {
         if (start == 0) break;
         const qsizetype end = EndOfNumber(text, start);
         const QString number = RuntimeExtension::CommaToPoint(text.sliced(start - 1, end - start));
-        if (number.count(u'.') <= 1) {
-            total += Text::LeadingNumber(number);
+        const double read = Text::LeadingNumber(number);
+        if (number.count(u'.') <= 1 && std::isfinite(total + read)) {
+            total += read;
             ++count;
         }
         i = end + 1;
     }
     if (mode == Calculation::Count) return count == 0 ? 1 : count;
     const double value = mode == Calculation::Average ? total / std::max(count, 1.0) : total;
-    return std::nearbyint(value * 1000) / 1000;
+    const double thousandths = std::nearbyint(value * 1000);
+    return std::isfinite(thousandths) ? thousandths / 1000 : value; // so large a value has no fraction
 }
 
 void ManipulateNumbers(const QString& prefix) {
@@ -210,6 +250,8 @@ void ManipulateNumbers(const QString& prefix) {
         done.append(rest.back());
         rest.chop(1);
     };
+    qsizetype first = -1;                // where the first insertion stands
+    qsizetype behind = selection.size(); // number of characters that no insertion stands in
     qsizetype length = selection.size(); // what the selection is to become; what is looked at lags behind
     qsizetype view = length;
     qsizetype r = 0;
@@ -225,13 +267,21 @@ void ManipulateNumbers(const QString& prefix) {
         const qsizetype p = done.size() + 1;
         const qsizetype end = p + number <= view ? p + number : length;
         if (r > start + length) break;
+        if (first < 0) first = done.size();
+        behind = std::min(behind, rest.size());
         rest.append(turnedPrefix);
         view = length;
         length += prefix.size();
         r = end + 1;
     }
     done.append(turned(rest));
-    if (done != selection) box->SetSelText(done);
+    if (done != selection) {
+        // What lies before the first prefix and behind the last number is left alone: the selection may end
+        // inside a line break, which a write over its end would double.
+        box->SetSelStart(start + first);
+        box->SetSelLength(selection.size() - first - behind);
+        box->SetSelText(done.sliced(first, done.size() - first - behind));
+    }
     box->SetSelStart(start);
     box->SetSelLength(view);
 }

@@ -21,7 +21,8 @@ qsizetype FirstDigitPos(qsizetype start, QStringView text);
 QString CommaToPoint(QString number);
 // Whether the file can be opened for reading.
 bool FileExists(const QString& path);
-// The binary digits of `number` without its fraction; empty for 0 and below.
+// The binary digits of `number` without its fraction; empty for 0 and below. Throws RuntimeError for a number
+// that is not finite.
 QString NumberToBinary(double number);
 // Whether `text` is one of the entries, to the letter.
 bool ComboHasItem(const QStringList& entries, const QString& text);
@@ -41,19 +42,25 @@ namespace CodeAccess {
 // front; tells in a message when there is none.
 void GoToLink(const QString& link);
 
+// Upper and lower case for the document's text, the length kept. A character that the document's code page
+// holds stays as it is when its other case has no byte there: no change of case makes another file of it.
+QString UpperCase(QStringView text);
+QString LowerCase(QStringView text);
+
 // Writes the names of all known tags of `page` in lower or upper case, in place, and returns it. Takes an
 // undo copy. A name that is merely part of a known one counts as known, and attributes are never touched;
 // both are meant.
 QString LowerCaseTags(QString& page);
 QString UpperCaseTags(QString& page);
 
-// Inserts the closing tag of the nearest open tag at or before `position` in the code box. Does nothing
-// behind a closing tag or inside a tag. There is no depth count.
+// Inserts the closing tag of the nearest open tag at or before `position` in the code box; tags that need
+// none are passed over. Does nothing behind a closing tag, inside a tag, or behind one that is still open
+// there. There is no depth count.
 void CloseOpenTag(double position);
 
 enum class Calculation { Sum = 1, Average = 2, Count = 3 };
 // Sum, average or count of the numbers in `text`, with point or comma; rounded to 3 places. The average of no
-// numbers is 0.
+// numbers is 0. Digits that no number can hold count as none.
 double CalculateSelection(const QString& text, Calculation mode);
 
 // Writes `prefix` before each number of the selection. The selection that it looks at lags one insertion

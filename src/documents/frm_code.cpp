@@ -39,9 +39,9 @@ const Tool Tools[] = {{u"Frm_TagTools", &Global::TagToolOpen, &Global::TagToolPo
 } // namespace
 
 Frm_Code::Frm_Code()
-    : TextBox(new Txt_Code(this)), Pic_ToolBar(new QWidget(this)),
-      Cmb_Functions(new DropDownList(Pic_ToolBar)), Cmb_Variables(new DropDownList(Pic_ToolBar)),
-      Tlb_JavaScript(new QToolBar(Pic_ToolBar)) {
+    : ScriptBarShown(Commands::IsChecked(u"Menu_View_ShowJavaScriptBar"_s)), TextBox(new Txt_Code(this)),
+      Pic_ToolBar(new QWidget(this)), Cmb_Functions(new DropDownList(Pic_ToolBar)),
+      Cmb_Variables(new DropDownList(Pic_ToolBar)), Tlb_JavaScript(new QToolBar(Pic_ToolBar)) {
     setObjectName(u"Frm_Code"_s);
     setFocusProxy(TextBox);
     Pic_ToolBar->setObjectName(u"Pic_ToolBar"_s);
@@ -64,7 +64,7 @@ Frm_Code::Frm_Code()
     TextBox->events.lostFocus = [] { Neighbours::CodeLostFocus(); };
     for (QWidget* control : {static_cast<QWidget*>(TextBox), static_cast<QWidget*>(Cmb_Functions),
                              static_cast<QWidget*>(Cmb_Variables)}) {
-        control->installEventFilter(this);
+        TakeIntoKeyPreview(control);
     }
     SetPlace(0, 0, SavedWidth, SavedHeight);
 }
@@ -141,7 +141,9 @@ void Frm_Code::Code_Change() {
     Neighbours::WatchTagForAssistant();
     SyntaxChecked = false;
     Neighbours::HidePopupList();
-    if (Commands::IsChecked(u"Menu_Tools_AutoUml"_s)) Neighbours::SubstituteUmlauts();
+    // No automatic rewrite acts on an undo or redo, be it the program's or the box's own.
+    const bool stepping = Undo::IsStepping() || TextBox->IsStepping();
+    if (!stepping && Commands::IsChecked(u"Menu_Tools_AutoUml"_s)) Neighbours::SubstituteUmlauts();
 }
 
 void Frm_Code::Code_KeyDown(int key, int shift) { Neighbours::CodeKeyDown(key, shift); }

@@ -25,14 +25,16 @@ public:
     void ActualizeSize();
     // Shows line and column in the status bar.
     void GetCursorPos();
+    // Lets every key that `control` gets take an undo copy first.
+    void TakeIntoKeyPreview(QWidget* control) { control->installEventFilter(this); }
     // Runs the check, if the debugger is shown, once per change: when the user leaves the spot.
     void CheckOnce();
     // Twips by which the code box's top stands below the window's; 330 while the script bar shows.
     int CodeTop() const { return m_codeTop; }
 
-    bool ScriptBarShown = false; // the script bar is uncovered; set from the command
-    std::int16_t FitMode = 0;    // 2 while the window is held to the main window's client area
-    bool SyntaxChecked = false;  // the check has run since the last change
+    bool ScriptBarShown;        // the script bar is uncovered: always as its command is checked
+    std::int16_t FitMode = 0;   // 2 while the window is held to the main window's client area
+    bool SyntaxChecked = false; // the check has run since the last change
 
     // The files of help and attributes, each line followed by one blank; read at load.
     QString AssistantHelpText;

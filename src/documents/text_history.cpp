@@ -46,8 +46,15 @@ QString TextHistory::At(int index) const {
     return text;
 }
 
+// Read from the last difference alone: an undo step asks for it once the history is full.
+qsizetype TextHistory::OldestSize() const {
+    if (m_older.empty()) return m_newest.size();
+    const Difference& last = m_older.back();
+    return last.prefix + last.middle.size() + last.suffix;
+}
+
 void TextHistory::RepeatOldest() {
-    if (!m_empty) m_older.push_back({At(Count() - 1).size(), 0, {}});
+    if (!m_empty) m_older.push_back({OldestSize(), 0, {}});
 }
 
 void TextHistory::Clear() {

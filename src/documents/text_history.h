@@ -30,6 +30,7 @@ private:
     };
     static Difference Between(const QString& newer, const QString& older);
     static QString Apply(const QString& newer, const Difference& difference);
+    qsizetype OldestSize() const;
 
     bool m_empty = true;
     QString m_newest;

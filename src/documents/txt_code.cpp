@@ -73,9 +73,18 @@ void Txt_Code::FireSelChange() {
 
 void Txt_Code::ReplaceRange(int from, int to, const QString& text) {
     QTextCursor cursor(document());
+    if (m_joining == Joining::Begins) {
+        cursor.setPosition(m_caretBeforeStep);
+        cursor.beginEditBlock();
+    } else if (m_joining == Joining::GoesOn) {
+        cursor.joinPreviousEditBlock();
+    }
     cursor.setPosition(from);
     cursor.setPosition(to, QTextCursor::KeepAnchor);
     cursor.insertText(DocumentCharacters::Hidden(text));
+    if (m_joining == Joining::No) return;
+    cursor.endEditBlock();
+    m_joining = Joining::GoesOn;
 }
 
 void Txt_Code::SetText(const QString& text) {
@@ -206,7 +215,8 @@ void Txt_Code::SetSelText(const QString& text) {
 // -----------------------------------------------------------------------------------------------
 
 // The widget lays lines out only as they come into sight and counts one line for the others. Those that may
-// wrap are laid out here; a line that is surely shorter than the box is not touched.
+// wrap or hold a line separator, which is shown as a new line, are laid out here; another line that is surely
+// shorter than the box is not touched.
 void Txt_Code::MeasureLines(int upToBlock) {
     if (m_measuredBlocks > upToBlock) return;
     const double advance = fontMetrics().horizontalAdvance(u'M');
@@ -216,10 +226,9 @@ void Txt_Code::MeasureLines(int upToBlock) {
     QTextBlock block = document()->findBlockByNumber(m_measuredBlocks);
     for (; block.isValid() && block.blockNumber() <= upToBlock; block = block.next()) {
         const qsizetype length = block.length() - 1;
-        bool wraps = length > fitting;
+        const QStringView line = QStringView(m_text).sliced(block.position() + block.blockNumber(), length);
+        bool wraps = length > fitting || line.contains(QChar::LineSeparator);
         if (!wraps && length * tabColumns > fitting) {
-            const QStringView line =
-                QStringView(m_text).sliced(block.position() + block.blockNumber(), length);
             qsizetype columns = 0;
             for (const QChar c : line) columns += c == u'\t' ? tabColumns : c.unicode() < 0x300 ? 1 : 2;
             wraps = columns > fitting;

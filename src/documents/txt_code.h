@@ -28,6 +28,27 @@ public:
     qsizetype LineFromChar(qsizetype position) override;
     qsizetype LineIndex(qsizetype line) override;
 
+    // Whether the change under way is an undo or redo of the box's own history.
+    bool IsStepping() const { return m_stepping; }
+    // While it lives, all writes of SelText are one step of the box's own history.
+    class OneStep {
+    public:
+        explicit OneStep(Txt_Code& box) : m_box(box), m_outermost(box.m_joining == Joining::No) {
+            if (!m_outermost) return;
+            m_box.m_joining = Joining::Begins;
+            m_box.m_caretBeforeStep = m_box.textCursor().position(); // an undo of the step brings it back
+        }
+        ~OneStep() {
+            if (m_outermost) m_box.m_joining = Joining::No;
+        }
+        OneStep(const OneStep&) = delete;
+        OneStep& operator=(const OneStep&) = delete;
+
+    private:
+        Txt_Code& m_box;
+        bool m_outermost;
+    };
+
     // Position of the character at a place of the box, in twips relative to it.
     qsizetype CharFromPlace(double x, double y) const;
 
@@ -76,6 +97,7 @@ private:
     void FireChange();
     void FireSelChange();
     void MeasureLines(int upToBlock);
+    void ActOnKey(QKeyEvent& event);
     QPointF PlaceOf(const QPointF& viewportPoint) const;
 
     QString m_text; // the whole text, kept in step with the document
@@ -83,6 +105,10 @@ private:
     bool m_endInsideBreak = false;
     bool m_writing = false;   // a change by program; its events come when it is done
     bool m_replacing = false; // the whole document is being set
+    bool m_stepping = false;
+    enum class Joining { No, Begins, GoesOn };
+    Joining m_joining = Joining::No;
+    int m_caretBeforeStep = 0;
     bool m_changed = false;
     int m_measuredBlocks = 0; // blocks from the start whose number of lines is exact
 };

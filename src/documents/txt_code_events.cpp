@@ -10,18 +10,43 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QMimeData>
+#include <QScopedValueRollback>
 
 int Txt_Code::ShiftMask(Qt::KeyboardModifiers modifiers) {
     return (modifiers & Qt::ShiftModifier ? 1 : 0) | (modifiers & Qt::ControlModifier ? 2 : 0) |
            (modifiers & Qt::AltModifier ? 4 : 0);
 }
 
+namespace {
+
+// The keys of the number block that type a sign; 0 for any other.
+int NumberBlockKey(int key) {
+    if (key >= Qt::Key_0 && key <= Qt::Key_9) return 96 + key - Qt::Key_0;
+    switch (key) {
+    case Qt::Key_Asterisk:
+        return 106;
+    case Qt::Key_Plus:
+        return 107;
+    case Qt::Key_Minus:
+        return 109;
+    case Qt::Key_Period:
+    case Qt::Key_Comma: // the same key on a German keyboard
+        return 110;
+    case Qt::Key_Slash:
+        return 111;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
 // The virtual key numbers in which the program's key handling is told.
 int Txt_Code::KeyNumber(const QKeyEvent& event) {
     const int key = event.key();
-    if (key >= Qt::Key_0 && key <= Qt::Key_9) {
-        return (event.modifiers() & Qt::KeypadModifier ? 96 : 48) + key - Qt::Key_0;
-    }
+    const int block = event.modifiers() & Qt::KeypadModifier ? NumberBlockKey(key) : 0;
+    if (block != 0) return block;
+    if (key >= Qt::Key_0 && key <= Qt::Key_9) return 48 + key - Qt::Key_0;
     if (key >= Qt::Key_A && key <= Qt::Key_Z) return 65 + key - Qt::Key_A;
     if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return 112 + key - Qt::Key_F1;
     static const QHash<int, int> numbers{
@@ -47,18 +72,29 @@ bool Txt_Code::event(QEvent* event) {
 void Txt_Code::keyPressEvent(QKeyEvent* event) {
     if (events.keyDown) events.keyDown(KeyNumber(*event), ShiftMask(event->modifiers()));
     if (event->key() == Qt::Key_Space && ShiftMask(event->modifiers()) == 2) {
-        insertPlainText(u" "_s); // what Control+Space types; word completion takes it back into account
+        // Control+Space is meant to type its blank: it ends the word, and completion steps back over it.
+        insertPlainText(u" "_s);
         return;
     }
+    const bool steps = event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Redo);
+    const QScopedValueRollback stepping(m_stepping, steps);
+    ActOnKey(*event);
+}
+
+// What the widget makes of the key, without two of its habits.
+void Txt_Code::ActOnKey(QKeyEvent& event) {
+    Qt::KeyboardModifiers modifiers = event.modifiers();
     // Shift+Enter is an Enter: the soft break that it would make is no line end of a file.
-    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
-        event->modifiers() & Qt::ShiftModifier) {
-        QKeyEvent enter(event->type(), event->key(), event->modifiers() & ~Qt::ShiftModifier, event->text(),
-                        event->isAutoRepeat());
-        QPlainTextEdit::keyPressEvent(&enter);
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) modifiers &= ~Qt::ShiftModifier;
+    // With Control the signs of the number block type nothing, like those of the other keys.
+    if (modifiers & Qt::ControlModifier) modifiers &= ~Qt::KeypadModifier;
+    if (modifiers == event.modifiers()) {
+        QPlainTextEdit::keyPressEvent(&event);
         return;
     }
-    QPlainTextEdit::keyPressEvent(event);
+    QKeyEvent changed(event.type(), event.key(), modifiers, event.text(), event.isAutoRepeat());
+    QPlainTextEdit::keyPressEvent(&changed);
+    event.setAccepted(changed.isAccepted());
 }
 
 void Txt_Code::keyReleaseEvent(QKeyEvent* event) {

@@ -9,6 +9,8 @@
 #include "shell/global.h"
 #include "shell/neighbours.h"
 
+#include <QScopedValueRollback>
+
 namespace Undo {
 
 namespace {
@@ -28,8 +30,11 @@ void EnableRedo(bool enabled) {
     Commands::SetEnabled(u"ToolBar_Redo"_s, enabled);
 }
 
+bool Stepping = false;
+
 void WriteText(CodeBox& box, const QString& text) {
     const qsizetype caret = box.SelStart();
+    const QScopedValueRollback stepping(Stepping, true);
     box.SetText(text);
     box.SetSelStart(caret);
 }
@@ -68,11 +73,11 @@ void RedoStep() {
     EnableRedo(true);
     EnableUndo(true);
     const QString present = box->Text();
-    const qsizetype caret = box->SelStart();
-    box->SetText(ring.At(Depth - 1));
+    WriteText(*box, ring.At(Depth - 1)); // a change like any other, which takes its own copy
     ring.Push(present, Depth);
-    box->SetSelStart(caret);
 }
+
+bool IsStepping() { return Stepping; }
 
 void UndoClear() {
     UndoTouched.clear();

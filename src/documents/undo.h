@@ -20,6 +20,8 @@ void UndoStep();
 // Brings back the oldest copy of a full ring, and otherwise only disables itself. This is meant: the enabling
 // of the commands depends on it.
 void RedoStep();
+// Whether one of these two is writing its text at this moment.
+bool IsStepping();
 // Forgets all copies.
 void UndoClear();
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editing/attribute_lookup.h"
 
+#include "documents/code_access.h"
 #include "editing/lists.h"
 #include "platform/text.h"
 #include "shell/global.h"
@@ -55,12 +56,13 @@ QStringList WordsFor(const QString& word) {
     qsizetype end = list.indexOf(u"<e-", hit);
     if (end < 0) end = list.size();
     QStringList words;
+    // Two commas in a row in the list file leave no word that could be chosen.
     for (const QString& entry : list.sliced(begin, end - begin).split(u'ß', Qt::SkipEmptyParts)) {
         QString shown = Lists::DecodeListToken(entry, u"ß"_s);
         if (word == Text::UpperCase(word)) {
-            shown = Text::UpperCase(shown);
+            shown = CodeAccess::UpperCase(shown);
         } else if (word == Text::LowerCase(word)) {
-            shown = Text::LowerCase(shown);
+            shown = CodeAccess::LowerCase(shown);
         }
         words << shown;
     }

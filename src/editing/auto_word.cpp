@@ -39,7 +39,10 @@ Completion Complete(const QString& text, qsizetype selStart) {
         if (end == 0) end = text.size();
         const QString candidate = upper.sliced(hit - 1, end - hit);
         if (hit == 1) throw RuntimeError("word: nothing before the text's start");
-        if (!IsLetter(text[hit - 2]) && !seen.contains(candidate)) {
+        // An occurrence at the very end of the text lacks its last letter. It is offered all the same, but
+        // what is no longer than the word, or empty, continues nothing.
+        const bool continues = candidate.size() > word.size();
+        if (continues && !IsLetter(text[hit - 2]) && !seen.contains(candidate)) {
             seen.insert(candidate);
             found.candidates << text.sliced(hit - 1, end - hit);
         }

@@ -76,7 +76,10 @@ void Wire() {
     });
     WatchTagForAssistant.AnsweredBy(WatchTag);
     Neighbours::SubstituteUmlauts.AnsweredBy([] {
-        if (Present().window) Umlauts::SubstituteUmlauts(*Present().window->TextBox);
+        if (!Present().window) return;
+        Txt_Code& box = *Present().window->TextBox;
+        const Txt_Code::OneStep step(box); // one undo takes the substitution back
+        Umlauts::SubstituteUmlauts(box);
     });
     CodeKeyDown.AnsweredBy([](int key, int shift) {
         if (Present().window) KeyHandling::KeyDown(*Present().window->TextBox, key, shift);

@@ -20,7 +20,10 @@ std::optional<QString> ReadList(const QString& fileName) {
 
 std::optional<QString> TokenReader::Next() {
     const auto isLineEnd = [](QChar c) { return c == u'\r' || c == u'\n'; };
-    while (m_at < m_text.size() && m_text.at(m_at) == u' ') ++m_at;
+    const auto skipBlanks = [this] {
+        while (m_at < m_text.size() && m_text.at(m_at) == u' ') ++m_at;
+    };
+    skipBlanks();
     if (m_at >= m_text.size()) return std::nullopt;
     QString token;
     if (m_text[m_at] == u'"') {
@@ -33,8 +36,11 @@ std::optional<QString> TokenReader::Next() {
         while (m_at < m_text.size() && m_text[m_at] != u',' && !isLineEnd(m_text[m_at])) ++m_at;
         token = m_text.sliced(begin, m_at - begin);
     }
-    // The separator: a comma, and the line end with or without one.
-    if (m_at < m_text.size() && m_text[m_at] == u',') ++m_at;
+    // The separator: a comma, and the line end with or without one, also behind blanks.
+    if (m_at < m_text.size() && m_text[m_at] == u',') {
+        ++m_at;
+        skipBlanks();
+    }
     if (m_at < m_text.size() && m_text[m_at] == u'\r') ++m_at;
     if (m_at < m_text.size() && m_text[m_at] == u'\n') ++m_at;
     return token;

@@ -44,6 +44,7 @@ PopupList::PopupList(Frm_Code* window)
     setIconSize({16, 16});
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus); // a click must not take the focus from the code box
+    window->TakeIntoKeyPreview(this);
     hide();
     Pic_Shadow->hide();
     connect(this, &QListWidget::itemClicked, this, &PopupList::Choose);
@@ -55,7 +56,7 @@ void PopupList::Hide() {
 }
 
 void PopupList::AddEntry(const QString& text, const QString& icon, const QString& tag) {
-    auto* item = new QListWidgetItem(text, this);
+    auto* item = new QListWidgetItem(text);
     item->setSizeHint({0, Twips::ToPixels(RowHeight)});
     item->setData(Qt::UserRole, tag);
     if (AttributeLookup::IsHeading(text)) {
@@ -66,6 +67,14 @@ void PopupList::AddEntry(const QString& text, const QString& icon, const QString
     } else {
         item->setIcon(Icons::Named(IconOf(icon)));
     }
+    // Only now: an item that is in the list has it search for itself at each of these changes.
+    addItem(item);
+}
+
+// An entry that a right click offers, in the list or, where that is shown instead, in the menu.
+void PopupList::AddForMouse(const QString& text) {
+    AddEntry(text, u"Attribute"_s, {});
+    if (Global::UseWindowsMenu) Neighbours::AddMenuAttribute(text, text);
 }
 
 // --- what is offered
@@ -111,10 +120,7 @@ void PopupList::RightClick(double x, double y) {
 }
 
 void PopupList::FillWithWords() {
-    for (const QString& word : AttributeLookup::WordsFor(m_window->TextBox->SelText())) {
-        AddEntry(word, u"Attribute"_s, {});
-        Neighbours::AddMenuAttribute(word, word);
-    }
+    for (const QString& word : AttributeLookup::WordsFor(m_window->TextBox->SelText())) AddForMouse(word);
 }
 
 void PopupList::FillWithAttributes() {
@@ -124,8 +130,7 @@ void PopupList::FillWithAttributes() {
     TagNameLength = tag->nameLength;
     TagClosedAtName = tag->closedAtName;
     for (const QString& attribute : AttributeLookup::AttributesOf(m_window->AttributeText, tag->name)) {
-        AddEntry(attribute, u"Attribute"_s, {});
-        Neighbours::AddMenuAttribute(attribute, attribute);
+        AddForMouse(attribute);
     }
 }
 

@@ -35,6 +35,7 @@ protected:
 
 private:
     void AddEntry(const QString& text, const QString& icon, const QString& tag);
+    void AddForMouse(const QString& text);
     void FillWithAttributes();
     void FillWithWords();
     void ShowObjectMembers(const QString& name);

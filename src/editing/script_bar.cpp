@@ -18,11 +18,10 @@ namespace {
 
 void JumpToFunction(Frm_Code& window, const QString& name) {
     Txt_Code& box = *window.TextBox;
-    Attempt([&] {
-        // a blank between name and bracket is not found, and then nothing happens
-        box.SetSelStart(Text::Find(box.Text(), QString(u"function " + name + u'(')) - 1);
-        box.SetSelLength(0);
-    });
+    // With a blank between name and bracket it is not found; then the caret stays and the selection
+    // collapses.
+    Attempt([&] { box.SetSelStart(Text::Find(box.Text(), QString(u"function " + name + u'(')) - 1); });
+    box.SetSelLength(0);
     box.SetFocus();
 }
 
@@ -36,10 +35,8 @@ void InsertNewFunction(Frm_Code& window) {
     Txt_Code& box = *window.TextBox;
     Undo::PushUndo();
     box.SetSelText(u"function NeueFunktion()\r\n{\r\n\t\r\n\t\r\n}"_s);
-    Attempt([&] {
-        box.SetSelStart(box.SelStart() - 4);
-        box.SetSelLength(0);
-    });
+    constexpr qsizetype BehindTheTab = 3; // the line break and the closing brace
+    box.SetSelStart(box.SelStart() - BehindTheTab);
     box.SetFocus();
 }
 

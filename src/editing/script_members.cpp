@@ -18,7 +18,8 @@ QString ObjectBeforeDot(const QString& text, qsizetype selStart, const QString& 
         QString name = Text::Middle(text, before + 1, selStart - before - 1).toString();
         if (name.startsWith(u'\n')) name.remove(0, 1);
         name = Global::CutBefore(name, u"["_s);
-        if (name.isEmpty()) return;
+        if (name.isEmpty())
+            return; // a dot behind nothing asks for no members, though "--" may stand in the list
         if (Lists::BlockStart(objects, name) != 0) {
             object = name;
             return;
@@ -39,7 +40,7 @@ QList<Member> MembersOf(const QString& objects, const QString& name) {
     const qsizetype start = name.isEmpty() ? 0 : Lists::BlockStart(objects, name);
     if (start == 0) return members;
     for (const QString& entry : Lists::BlockEntries(objects, start)) {
-        if (entry.isEmpty()) continue;
+        if (entry.isEmpty()) continue; // two commas in a row leave no entry that could be chosen
         const Member::Kind kind = entry[0] == u'#'   ? Member::Kind::Attribute
                                   : entry[0] == u'*' ? Member::Kind::Function
                                                      : Member::Kind::Object;

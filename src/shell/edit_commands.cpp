@@ -56,10 +56,16 @@ template<class Change> void ChangeSelection(Change&& change) {
     });
 }
 
-QString InBase(const QString& text, int base) {
+// The whole number that `text` begins with, as every base writes it; a fraction is rounded, halves to the
+// even neighbour. Throws RuntimeError for one beyond 64 bits: such a selection stays as it is.
+qint64 WholeNumber(const QString& text) {
     const double value = std::nearbyint(Text::LeadingNumber(text));
     if (std::abs(value) > 9e18) throw RuntimeError("number too large");
-    const auto whole = static_cast<qint64>(value);
+    return static_cast<qint64>(value);
+}
+
+QString InBase(const QString& text, int base) {
+    const qint64 whole = WholeNumber(text);
     // negative values show as the 32-bit pattern that they have in scripts
     const auto pattern = whole < 0 && whole >= INT32_MIN ? quint64(quint32(qint32(whole))) : quint64(whole);
     return QString::number(pattern, base).toUpper();
@@ -131,11 +137,11 @@ void Menu_Edit_SelectAll() {
 }
 
 void Menu_Edit_EditString_UCase() {
-    ChangeSelection([](const QString& text) { return Text::UpperCase(text); });
+    ChangeSelection([](const QString& text) { return CodeAccess::UpperCase(text); });
 }
 
 void Menu_Edit_EditString_LCase() {
-    ChangeSelection([](const QString& text) { return Text::LowerCase(text); });
+    ChangeSelection([](const QString& text) { return CodeAccess::LowerCase(text); });
 }
 
 void Menu_Edit_EditString_Turn() {
@@ -158,7 +164,7 @@ void Menu_Edit_ChangeDigitSystem_Okt() {
 
 void Menu_Edit_ChangeDigitSystem_Bin() {
     ChangeSelection([](const QString& text) {
-        const QString digits = RuntimeExtension::NumberToBinary(Text::LeadingNumber(text));
+        const QString digits = RuntimeExtension::NumberToBinary(static_cast<double>(WholeNumber(text)));
         return digits.isEmpty() ? u"0"_s : digits;
     });
 }

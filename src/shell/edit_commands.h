@@ -10,6 +10,8 @@ namespace Global {
 // The text turned around, with its line breaks kept as CR LF.
 QString ReverseText(const QString& text);
 // Writes `replacement` over each `marker` in `text`, from the first on; both must have the same length.
+// The search goes on from the hit and not from its own last start: from there it would take the end of one
+// new line break and the start of the next for a marker.
 void ReplaceSameLength(QString& text, QStringView marker, QStringView replacement);
 
 } // namespace Global

@@ -11,8 +11,6 @@
 #include "support/scripted_dialogs.h"
 #include "support/test_registry.h"
 
-#include <QElapsedTimer>
-
 using namespace CodeAccess;
 
 class CodeAccessTest : public QObject {
@@ -101,6 +99,7 @@ private slots:
         QTest::newRow("behind sections and server comments")
             << u"<script>/*<![CDATA[*/ a /*]]>*/<%-- b --%>|"_s
             << u"<script>/*<![CDATA[*/ a /*]]>*/<%-- b --%></script>|"_s;
+        QTest::newRow("skipped behind an open tag") << u"<p <br>|"_s << u"<p <br>|"_s;
         QTest::newRow("at the start") << u"|<p>"_s << u"|<p>"_s;
         QTest::newRow("no tag") << u"Text|"_s << u"Text|"_s;
     }
@@ -126,6 +125,7 @@ private slots:
         QTest::newRow("sentence") << u"Es sind 3, dann 4."_s << 7.0 << 3.5 << 2.0;
         QTest::newRow("prices") << u"Brot\t2,40 EUR\r\nMilch\t1,10 EUR"_s << 3.5 << 1.75 << 2.0;
         QTest::newRow("punctuation alone") << u"., ,."_s << 0.0 << 0.0 << 1.0;
+        QTest::newRow("beyond all numbers") << QString(u"5 " + QString(400, u'9')) << 5.0 << 5.0 << 1.0;
         QTest::newRow("signs are no part") << u"5-3"_s << 8.0 << 4.0 << 2.0;
     }
     void calculates() {
@@ -151,6 +151,11 @@ private slots:
         Show(u"5 6"_s, 0, 3);
         ManipulateNumbers(QString());
         QCOMPARE(m_box.Text(), u"5 6"_s);
+        // line breaks stay as they are, also where the selection cuts them
+        Show(u"a\r\n5\r\nb\r\n6\r\nc"_s, 2, 10);
+        ManipulateNumbers(u"1"_s);
+        QCOMPARE(m_box.Text(), u"a\r\n15\r\nb\r\n16\r\nc"_s);
+        QCOMPARE(m_box.SelStart(), 2);
     }
 
     void listsFunctions_data() {
@@ -213,14 +218,12 @@ private slots:
         QCOMPARE(RuntimeExtension::FirstDigitPos(2, u"1a"), 0);
     }
 
-    // Inputs on which a scan that starts over at each step would take minutes.
+    // Inputs on which a scan that starts over at each step would not end before the test's own time limit.
     void staysLinearOnHostileText() {
-        constexpr int Size = 400000;
+        constexpr int Size = 1'600'000;
         const auto repeated = [](const QString& piece) { return piece.repeated(Size / piece.size()); };
-        QElapsedTimer timer;
-        timer.start();
-        for (const QString& piece : {u"<"_s, u"<b"_s, u"<br>"_s, u">"_s, u"function "_s, u"var "_s, u"1,"_s,
-                                     u"1"_s, u"function a "_s, u"var a,"_s}) {
+        for (const QString& piece : {u"<"_s, u"<b"_s, u"<br>"_s, u"<br "_s, u">"_s, u"function "_s, u"var "_s,
+                                     u"1,"_s, u"1"_s, u"function a "_s, u"var a,"_s}) {
             const QString text = repeated(piece);
             QString page = text;
             LowerCaseTags(page);
@@ -230,8 +233,9 @@ private slots:
             ScanVariables(text);
             Show(text, text.size());
             CloseOpenTag(double(text.size()));
+            Show(text + u'>', text.size() + 1);
+            CloseOpenTag(double(text.size() + 1));
         }
-        QVERIFY2(timer.elapsed() < 60000, "a scan grows faster than the text");
     }
 };
 

@@ -156,6 +156,38 @@ private slots:
         box.SetText(u"a\nb\n"_s);
         QCOMPARE(box.LineFromChar(6), 2); // behind the last line end
         QCOMPARE(box.LineIndex(2), 6);
+        // a line separator is shown as a new line, also where it is far out of sight
+        box.SetText(u"\n"_s.repeated(500) + u"a\u2028b\n"_s.repeated(100) + u"c");
+        QCOMPARE(box.LineFromChar(box.Text().size()), 500 + 200);
+        QCOMPARE(box.LineIndex(700), box.Text().size() - 1);
+    }
+
+    void numbersTheKeysOfTheNumberBlock() {
+        Txt_Code box;
+        QList<QPair<int, int>> keys;
+        box.events.keyDown = [&](int key, int shift) { keys << qMakePair(key, shift); };
+        box.SetText(u"x"_s);
+        box.SetSelLength(1);
+        const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers, QChar sign) {
+            QKeyEvent event(QEvent::KeyPress, key, modifiers, sign);
+            QCoreApplication::sendEvent(&box, &event);
+        };
+        using K = Qt::Key;
+        // the comma stands on a German block
+        for (const auto& [key, sign, number] :
+             {std::tuple(K::Key_7, u'7', 103), std::tuple(K::Key_Asterisk, u'*', 106),
+              std::tuple(K::Key_Plus, u'+', 107), std::tuple(K::Key_Minus, u'-', 109),
+              std::tuple(K::Key_Period, u'.', 110), std::tuple(K::Key_Comma, u',', 110),
+              std::tuple(K::Key_Slash, u'/', 111)}) {
+            keys.clear();
+            press(key, Qt::ControlModifier | Qt::KeypadModifier, sign);
+            QCOMPARE(keys, (QList{qMakePair(number, 2)}));
+            QCOMPARE(box.Text(), u"x"_s); // with Control they type nothing
+        }
+        press(K::Key_Plus, Qt::KeypadModifier, u'+');
+        QCOMPARE(box.Text(), u"+"_s);
+        QTest::keyClick(&box, Qt::Key_Period);
+        QCOMPARE(keys.last().first, 190);
     }
 
     void takesWhatIsTypedAndPasted() {

@@ -133,6 +133,8 @@ private slots:
         QTest::newRow("only itself") << u" ab AB ab| "_s << u"ab"_s << none;
         QTest::newRow("inside other words") << u" xab ab| "_s << u"ab"_s << none;
         QTest::newRow("umlauts") << u" Größe gr| "_s << u"gr"_s << QStringList{u"Größe"_s};
+        QTest::newRow("its own letter at the end") << u" a| a"_s << u"a"_s << none;
+        QTest::newRow("itself at the end") << u" ab| ab"_s << u"ab"_s << none;
         QTest::newRow("digits end a word") << u" h1x h| "_s << u"h"_s << none;
     }
     void completesWords() {

@@ -13,7 +13,7 @@ class ListsTest : public QObject {
 
 private slots:
     void readsTokens() {
-        Lists::TokenReader reader(u"a,  b c ,\"x, y\",\r\nd\r\n\r\ne,,f"_s);
+        Lists::TokenReader reader(u"a,  b c ,\"x, y\", \r\nd\r\n\r\ne, ,f,  \n"_s);
         QStringList tokens;
         while (const auto token = reader.Next()) tokens << *token;
         QCOMPARE(tokens, (QStringList{u"a"_s, u"b c "_s, u"x, y"_s, u"d"_s, {}, u"e"_s, {}, u"f"_s}));

@@ -115,6 +115,32 @@ private slots:
         QVERIFY(seen.contains(u"ae&Ouml;"_s));
     }
 
+    void leavesUndoneUmlautsAlone() {
+        Open(u"a.htm"_s, "");
+        Driver::Trigger(u"Menu_Tools_AutoUml"_s);
+        Driver::TypeCode(u"Grü"_s);
+        QCOMPARE(Box().Text(), u"Grue"_s);
+        Driver::PressCode(Qt::Key_Z, Qt::ControlModifier); // one step takes the substitution back
+        QCOMPARE(Box().Text(), u"Grü"_s);
+        Driver::PressCode(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(Box().Text(), QString());
+        QTest::keySequence(&Box(), QKeySequence::Redo);
+        QCOMPARE(Box().Text(), u"Grü"_s);
+        QTest::keySequence(&Box(), QKeySequence::Redo);
+        QCOMPARE(Box().Text(), u"Grue"_s);
+        Driver::PressCode(Qt::Key_Z, Qt::ControlModifier);
+        Driver::TypeCode(u"n"_s);
+        QCOMPARE(Box().Text(), u"Grün"_s);
+        Driver::TypeCode(u"ö"_s); // what is typed from then on is substituted
+        QCOMPARE(Box().Text(), u"Grünoe"_s);
+        QStringList seen;
+        for (int i = 0; i < Undo::Depth; ++i) {
+            Driver::Trigger(u"Menu_Edit_Undo"_s);
+            seen << Box().Text();
+        }
+        QVERIFY(seen.contains(u"Grü"_s) && seen.last().isEmpty());
+    }
+
     void offersAttributesInTheMenu() {
         Open(u"a.htm"_s, "<table border=1><b>x</b></table>");
         RightClick(3);
@@ -135,6 +161,7 @@ private slots:
         Shared<Frm_Code>().BringToFront();
         RightClick(82);
         QVERIFY(List().isVisible());
+        QVERIFY(!MenuEntries().contains(u"colspan"_s)); // the menu that is not shown gets none
         QVERIFY(Shared<Frm_Code>().TextBox->geometry().contains(List().geometry()));
         QCOMPARE(List().height(), 150); // ten rows and more scroll
         const QRect item = List().visualItemRect(List().findItems(u"colspan"_s, Qt::MatchExactly).value(0));
@@ -169,6 +196,11 @@ private slots:
         QTest::keyClick(&List(), Qt::Key_A); // types on in the code
         QVERIFY(!List().isVisible());
         QVERIFY(Box().Text().contains(u"(Math.a)"));
+        Driver::PressCode(Qt::Key_Backspace);
+        Driver::PressCode(Qt::Key_Backspace);
+        QTest::keyClick(&Box(), Qt::Key_Period,
+                        Qt::KeypadModifier); // the number block's types a sign, no more
+        QVERIFY(Box().Text().contains(u"(Math.)") && !List().isVisible());
         Open(u"b.htm"_s, "");
         Driver::TypeCode(u"document"_s);
         Driver::PressCode(Qt::Key_Period); // no bar, no list
@@ -184,7 +216,9 @@ private slots:
         Driver::TypeCode(u"ab"_s);
         Driver::PressCode(Qt::Key_Space, Qt::ControlModifier);
         QVERIFY(List().isVisible());
+        Undo::UndoClear();
         QTest::keyClick(&List(), Qt::Key_Down);
+        QCOMPARE(Undo::UndoRing(1), Box().Text()); // a key in the list counts like any other
         QTest::keyClick(&List(), Qt::Key_Return);
         QCOMPARE(Box().Text(), u" Vereinsheim abend abfahrt Vereinsheim abfahrt "_s);
         QCOMPARE(Box().SelStart(), Box().Text().size() - 1);
@@ -198,6 +232,10 @@ private slots:
         QCOMPARE(code.Cmb_Functions->count(), 2);
         emit code.Cmb_Functions->textActivated(u"zwei"_s);
         QCOMPARE(Box().SelStart(), 35);
+        Box().SetSelLength(8);
+        emit code.Cmb_Functions->textActivated(u"fehlt"_s);
+        QCOMPARE(Box().SelStart(), 35);
+        QCOMPARE(Box().SelLength(), 0);
         code.Cmb_Variables->Fill();
         code.Cmb_Variables->setCurrentText(u"zahl"_s);
         code.Cmb_Variables->setCurrentIndex(0);
@@ -208,7 +246,7 @@ private slots:
             ->findChild<QAction*>(u"Tlb_JavaScript_NewFunction"_s)
             ->trigger();
         QVERIFY(Box().Text().endsWith(u"function NeueFunktion()\r\n{\r\n\t\r\n\t\r\n}"));
-        QCOMPARE(Box().SelStart(), Box().Text().size() - 4);
+        QCOMPARE(Box().SelStart(), Box().Text().size() - 3); // behind the second tab
     }
 
     void uncoversTheScriptBarByCommand() {
@@ -219,6 +257,11 @@ private slots:
         QCOMPARE(Box().y(), 22);
         QVERIFY(Commands::IsChecked(u"Menu_View_ShowJavaScriptBar"_s));
         QVERIFY(Driver::IsEnabled(u"Menu_Insert_JavaScript_CurrentVar"_s));
+        Unload<Frm_Code>();
+        Shared<Frm_Code>().BringToFront(); // the new window has the bar as its command says
+        QCoreApplication::processEvents();
+        QCOMPARE(Box().y(), 22);
+        QVERIFY(Commands::IsChecked(u"Menu_View_ShowJavaScriptBar"_s));
         Driver::Trigger(u"Menu_View_ShowJavaScriptBar"_s);
         QCOMPARE(Box().y(), 0);
     }

@@ -43,6 +43,8 @@ private slots:
         QTest::addColumn<int>("command");
         QTest::addColumn<QString>("result");
         QTest::newRow("upper") << u"straße ü"_s << 0 << u"STRAßE Ü"_s;
+        QTest::newRow("upper stays in the code page") << u"µƒÿ"_s << 0 << u"µƒŸ"_s;
+        QTest::newRow("upper beyond the code page") << u"čaj"_s << 0 << u"ČAJ"_s;
         QTest::newRow("lower") << u"ÄB"_s << 1 << u"äb"_s;
         QTest::newRow("turn") << u"abc"_s << 2 << u"cba"_s;
         QTest::newRow("turn lines") << u"ab\r\ncd"_s << 2 << u"dc\r\nba"_s;
@@ -56,6 +58,12 @@ private slots:
         QTest::newRow("octal") << u"64"_s << 4 << u"100"_s;
         QTest::newRow("binary") << u"10"_s << 5 << u"1010"_s;
         QTest::newRow("binary of a word") << u"abc"_s << 5 << u"0"_s;
+        for (const auto& [base, digits] :
+             {std::pair(3, u"3"_s), std::pair(4, u"3"_s), std::pair(5, u"11"_s)}) {
+            QTest::addRow("a fraction, command %d", base) << u"2.7"_s << base << digits;
+            QTest::addRow("no number can hold it, command %d", base)
+                << QString(400, u'9') << base << QString(400, u'9');
+        }
         QTest::newRow("delete") << u"abc"_s << 6 << QString();
         QTest::newRow("too large") << u"99999999999999999999"_s << 3 << u"99999999999999999999"_s;
     }
@@ -75,6 +83,13 @@ private slots:
         QFETCH(QString, result);
         QCOMPARE(m_box.Text(), QString(u"<" + result + u">"));
         QCOMPARE(Undo::UndoRing(1), QString(u"<" + text + u">")); // the copy from before
+    }
+
+    void changesTheCaseOfAnyCharacterInUtf8() {
+        Global::DocumentFormat.encoding = CodePage::Encoding::Utf8;
+        Select(u"µƒ"_s);
+        Menu_Edit_EditString_UCase();
+        QCOMPARE(m_box.Text(), u"\u039C\u0191"_s);
     }
 
     void usesTheClipboard() {
