@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Measures the page: the contrast of every text with the ground behind it, in every state a link or a control can
 // have, and whether the page is wider than its window. The sheet's state selectors have been turned into classes
-// ("a:hover" into "a.is-hover") because a page cannot put itself into these states, nor see what ":visited" paints.
+// ("a:hover" into "a.is-hover") because a page cannot put itself into these states, nor see what ":visited" and
+// "::placeholder" paint.
 (() => {
     const parse = (color) => {
         const [r, g, b, a = 1] = color.match(/[\d.]+/g).map(Number);
@@ -61,7 +62,6 @@
             if (walker.currentNode.data.trim() && element.getClientRects().length) measure(element);
         }
         if (root.matches && root.matches('input,textarea,select')) measure(root);
-        if (root.placeholder) measure(root, '::placeholder');
     };
 
     const links = document.querySelectorAll('a[href]');
@@ -89,7 +89,10 @@
         underStates(link, [[], ...states]);
         link.classList.replace('is-visited', 'is-link');
     });
-    controls.forEach((control) => underStates(control, [[], ...states]));
+    controls.forEach((control) => {
+        underStates(control, [[], ...states]);
+        if (control.placeholder) underStates(control, [['is-placeholder']]);
+    });
 
     const wide = document.documentElement.scrollWidth - window.innerWidth;
     if (wide > 0) report.faults.push(`${wide} pixels wider than the window`);
