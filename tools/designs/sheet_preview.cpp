@@ -32,7 +32,8 @@ QByteArray Contents(const QString& name) {
 QString WithSheet(QString page, const QByteArray& sheet, bool statesAsClasses) {
     QString rules = QString::fromLatin1(sheet);
     if (statesAsClasses) {
-        static const QRegularExpression state(QStringLiteral("::?(link|visited|hover|focus|active|placeholder)\\b"));
+        static const QRegularExpression state(
+            QStringLiteral("::?(link|visited|hover|focus|active|placeholder)\\b"));
         rules.replace(state, QStringLiteral(".is-\\1"));
     }
     return page.replace(QStringLiteral("</head>"), "<style>" + rules + "</style></head>");
