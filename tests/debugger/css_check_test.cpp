@@ -2,7 +2,10 @@
 #include "debugger/css_check.h"
 #include "debugger/style_check.h"
 #include "report_text.h"
+#include "support/program_folder.h"
 #include "support/test_registry.h"
+
+#include <QFile>
 
 class CssCheck : public QObject {
     Q_OBJECT
@@ -17,6 +20,7 @@ private slots:
     void StyleSheetWithoutItsLastCharacter();
     void HostileSheets_data();
     void HostileSheets();
+    void ShippedDesignsHaveNoRow();
 };
 
 namespace {
@@ -175,6 +179,16 @@ void CssCheck::HostileSheets() {
     Debugger::Report report;
     Debugger::CheckCSSSyntax(css, Debugger::StyleMode::Head, 1, report);
     QCOMPARE(report.rows.size(), static_cast<size_t>(rows));
+}
+
+void CssCheck::ShippedDesignsHaveNoRow() {
+    for (int number = 1; number <= 8; ++number) {
+        QFile file(SourceFile(u"data/defstyle%1.css"_s.arg(number)));
+        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
+        const QByteArray sheet = file.readAll();
+        QCOMPARE(Rows(QString::fromLatin1(sheet)), QStringList());
+        QCOMPARE(sheet.count('\n'), sheet.count("\r\n"));
+    }
 }
 
 REGISTER_TEST(CssCheck);
