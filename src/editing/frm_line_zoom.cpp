@@ -8,8 +8,8 @@
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "platform/twips.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -8,8 +8,8 @@
 #include "platform/text.h"
 #include "platform/twips.h"
 #include "preview/frm_browser.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <QCloseEvent>
 #include <QComboBox>

@@ -4,8 +4,8 @@
 #include "documents/txt_code.h"
 #include "editing/plain_text_box.h"
 #include "platform/literals.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/window.h"
-#include "shell/neighbours.h"
+#include "state/neighbours.h"
 
 #include <QMainWindow>
 
@@ -21,8 +21,10 @@ public:
 
     // Recomputes which commands are open; called behind every change of the document's state.
     void ActivateFunktions();
-    // Carries out the command of a menu item by its name.
-    void RunCommand(const QString& name);
+    // Carries out the command of a menu item by its name; returns whether there is one.
+    bool RunCommand(const QString& name);
+    // Whether something answers to the menu item.
+    static bool HasCommand(const QString& name);
     void AddMenuAttribute(const QString& caption, const QString& tag);
     void UnloadMenuAttributes();
     // Browsing without a document, and its counterpart for the WAP simulation.

@@ -4,7 +4,6 @@
 #include "documents/paths.h"
 #include "documents/recovery.h"
 #include "documents/undo.h"
-#include "editing/lists.h"
 #include "platform/clipboard.h"
 #include "platform/dialogs_qt.h"
 #include "platform/files.h"
@@ -13,15 +12,17 @@
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "platform/twips.h"
-#include "shell/commands.h"
 #include "shell/frm_load.h"
 #include "shell/frm_main.h"
 #include "shell/frm_welcome.h"
-#include "shell/global.h"
 #include "shell/main_menu.h"
-#include "shell/settings.h"
 #include "shell/tips.h"
 #include "shell/wiring.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/lists.h"
+#include "state/settings.h"
+#include "state/windows.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -247,7 +248,7 @@ void Frm_Main::ShowWorkScreenSkin() {
 void Frm_Main::StartWork() {
     if (!Global::StartPending) return;
     Global::StartPending = false;
-    if (Global::UpdateLogExists()) Neighbours::RunTool(u"Frm_UpdateMessage"_s);
+    if (Global::UpdateLogExists()) Windows::Show(u"Frm_UpdateMessage");
     const QString file = Program::FileArgument(Program::CommandLine());
     if (!file.isEmpty()) {
         Documents::OpenFile(file);
