@@ -87,9 +87,6 @@ QString CheckInstallation();
 // The file that a whole command line names: without double quotes at both ends, full, in the program's form.
 // Empty for an empty line.
 QString FileArgument(const QString& commandLine);
-// `place` (pixels, outer) made to lie whole on one of the `screens` (the first one is the main screen), and
-// not too small to be used.
-QRect FittedToScreen(QRect place, const QList<QRect>& screens);
 // Makes the system's clipboard the program's.
 void ConnectClipboard();
 // Ends the program at once, without the exit sequence.

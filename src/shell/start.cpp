@@ -10,6 +10,7 @@
 #include "platform/literals.h"
 #include "platform/modal.h"
 #include "platform/numbers.h"
+#include "platform/screen_place.h"
 #include "platform/text.h"
 #include "platform/twips.h"
 #include "shell/frm_load.h"
@@ -29,7 +30,6 @@
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QMdiArea>
-#include <QScreen>
 #include <QTimer>
 #include <QTranslator>
 
@@ -132,23 +132,6 @@ void Frm_Main::EndOnBrokenFile(const QString& fileName) {
     throw Program::StartEnded();
 }
 
-// A window from a larger or second screen comes back where it can be seen and used: whole on the screen that
-// shows most of it, on the first one where none does.
-QRect Program::FittedToScreen(QRect place, const QList<QRect>& screens) {
-    QRect screen = screens.constFirst();
-    const auto shown = [&](const QRect& one) {
-        const QRect part = one.intersected(place);
-        return part.isEmpty() ? 0 : qint64(part.width()) * part.height();
-    };
-    for (const QRect& one : screens) {
-        if (shown(one) > shown(screen)) screen = one;
-    }
-    place.setSize(place.size().expandedTo({480, 360}).boundedTo(screen.size()));
-    place.moveLeft(std::clamp(place.left(), screen.left(), screen.right() + 1 - place.width()));
-    place.moveTop(std::clamp(place.top(), screen.top(), screen.bottom() + 1 - place.height()));
-    return place;
-}
-
 void Frm_Main::RestorePlace() {
     const auto number = [](const QString& key, int preset) {
         double value = preset;
@@ -156,9 +139,7 @@ void Frm_Main::RestorePlace() {
         return Twips::ToPixels(value);
     };
     QRect place(number(u"Left"_s, 0), number(u"Top"_s, 0), number(u"Width"_s, 640), number(u"Height"_s, 480));
-    QList<QRect> screens{QGuiApplication::primaryScreen()->availableGeometry()};
-    for (const QScreen* screen : QGuiApplication::screens()) screens.append(screen->availableGeometry());
-    place = Program::FittedToScreen(place, screens);
+    place = FittedToScreen(place, {480, 360}); // where it can be seen and used
     move(place.topLeft());
     resize(place.size());
     m_wantedPlace = place;

@@ -5,6 +5,7 @@
 #include "documents/recovery.h"
 #include "platform/files.h"
 #include "platform/literals.h"
+#include "platform/screen_place.h"
 #include "shell/frm_main.h"
 #include "shell/status_bar.h"
 #include "shell/wiring.h"
@@ -167,7 +168,8 @@ private slots:
     }
     void fitsTheWindowToItsScreen() {
         QFETCH(QRect, saved);
-        QTEST(Program::FittedToScreen(saved, {QRect(0, 0, 1280, 800), QRect(1280, 0, 1024, 768)}), "shown");
+        QTEST(FittedToScreen(saved, {QRect(0, 0, 1280, 800), QRect(1280, 0, 1024, 768)}, {480, 360}),
+              "shown");
     }
 };
 

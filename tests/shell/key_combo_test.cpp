@@ -84,6 +84,7 @@ private slots:
         Neighbours::RunAnimation.AnsweredBy([&said](int, const QString& text) { said << text; });
         Global::AssistantOpen = true;
         Shared<Frm_KeyCombo>().show();
+        QVERIFY(QTest::qWaitForWindowActive(&Shared<Frm_KeyCombo>()));
         Unload<Frm_KeyCombo>();
         Global::AssistantOpen = false;
         QCOMPARE(said.size(), 2);
