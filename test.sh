@@ -6,6 +6,7 @@ set -eu
 cd "$(dirname "$0")"
 
 ./tools/install_packages.sh test
+./tools/check_includes.sh
 find src tests bench -name '*.h' -o -name '*.cpp' | sort | xargs clang-format --dry-run --Werror
 
 # XDG_RUNTIME_DIR is missing in bare containers; Qt then warns at every start.

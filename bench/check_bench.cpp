@@ -2,9 +2,9 @@
 // What a run of the debugger costs: a realistic page at three sizes, and pages made to slow it down.
 // Usage: check_bench [file ...] measures the given files instead.
 #include "debugger/page_check.h"
-#include "editing/lists.h"
 #include "platform/files.h"
-#include "shell/global.h"
+#include "state/global.h"
+#include "state/lists.h"
 
 #include <QElapsedTimer>
 #include <QFile>

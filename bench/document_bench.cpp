@@ -8,8 +8,8 @@
 #include "documents/text_buffer.h"
 #include "platform/literals.h"
 #include "shell/frm_main.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 #include "support/driver.h"
 #include "support/program_folder.h"
 

@@ -8,8 +8,8 @@
 #include "platform/files.h"
 #include "platform/literals.h"
 #include "shell/frm_main.h"
-#include "shell/global.h"
 #include "shell/wiring.h"
+#include "state/global.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "assistant/answers.h"
 
-#include "editing/lists.h"
 #include "platform/literals.h"
-#include "shell/global.h"
+#include "state/global.h"
+#include "state/lists.h"
 
 #include <algorithm>
 

@@ -3,16 +3,16 @@
 
 #include "assistant/answers.h"
 #include "documents/frm_code.h"
-#include "editing/lists.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/files.h"
 #include "platform/icons.h"
 #include "platform/literals.h"
 #include "platform/twips.h"
-#include "shell/commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/lists.h"
+#include "state/neighbours.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -2,8 +2,8 @@
 #include "assistant/wire_assistant.h"
 
 #include "assistant/frm_assistant.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 namespace {
 

@@ -12,9 +12,9 @@
 #include "platform/literals.h"
 #include "platform/text.h"
 #include "platform/twips.h"
-#include "shell/commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <QVBoxLayout>
 #include <algorithm>

@@ -2,8 +2,8 @@
 #include "debugger/wire_debugger.h"
 
 #include "debugger/frm_debug.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 void WireDebugger() {
     Neighbours::ShowDebugger.AnsweredBy([] { Shared<Frm_DeBug>().Present(); });

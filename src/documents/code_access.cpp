@@ -7,8 +7,8 @@
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/text.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <QHash>
 #include <QSet>

@@ -10,9 +10,10 @@
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/text.h"
-#include "shell/commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/neighbours.h"
+#include "state/windows.h"
 
 namespace Documents {
 
@@ -56,8 +57,8 @@ void ShowFileCaption(const QString& path) {
 // CurrentFile keeps the name of the file that could not be read, but no text goes under that name: the one
 // that was open has had its question, and goes with its window.
 void FailToOpen() {
-    if (Global::CodeWindowOpen) Neighbours::UnloadWindow(u"Frm_Code"_s);
-    if (Global::BrowserOpen) Neighbours::UnloadWindow(u"Frm_Browser"_s);
+    if (Global::CodeWindowOpen) Windows::Unload(u"Frm_Code");
+    if (Global::BrowserOpen) Windows::Unload(u"Frm_Browser");
     ForgetText();
     Global::OpenFailed = true;
     ShowAtRest();
@@ -70,7 +71,7 @@ bool OpenPicture(const QString& path) {
     auto picture = DocumentFile::LoadRaw(path);
     if (!picture) return false;
     Neighbours::ActivateToolBar();
-    Neighbours::UnloadWindow(u"Frm_Code"_s);
+    Windows::Unload(u"Frm_Code");
     ForgetText();
     Global::PicturePreview = true;
     // The bytes are kept as they are: a save must not take them for text.
@@ -164,7 +165,7 @@ void OpenFile(const QString& path, bool& preview) {
     if (!Global::AutoPreView) preview = false;
     Global::CurrentFile = path;
     Global::CurrentExtension = Global::ExtensionOf(path);
-    Neighbours::UnloadWindow(u"Frm_Welcome"_s);
+    Windows::Unload(u"Frm_Welcome");
     const bool picture = DocumentFile::IsPicture(Global::CurrentExtension);
     if (picture ? !OpenPicture(path) : !OpenText(path, preview)) {
         FailToOpen();
@@ -195,7 +196,7 @@ void DropFile(const QString& path) {
 }
 
 void Menu_File_Open_Click() {
-    Neighbours::UnloadWindow(u"Frm_Welcome"_s);
+    Windows::Unload(u"Frm_Welcome");
     if (!AskToSave(u"Datei öffnen"_s, SaveFirst::MayFail)) return;
     const QString path = Dialogs::OpenFileDialog(u"Öffnen"_s, OpenFilter);
     if (path.isEmpty()) return;
@@ -342,7 +343,7 @@ void CloseDocument() {
          {u"Frm_Code"_s, u"Frm_Browser"_s, u"Frm_Color"_s, u"Frm_DeBug"_s, u"Frm_InsertStyle"_s, u"Frm_KCC"_s,
           u"Frm_Search"_s, u"Frm_TagTools"_s, u"Frm_UmlCorrection"_s, u"Frm_Characters"_s, u"Frm_Events"_s,
           u"Frm_ProjectManager"_s}) {
-        Neighbours::UnloadWindow(window);
+        Windows::Unload(window);
     }
     Documents::ForgetText(); // once the windows are gone, which may have touched it
     Documents::ShowAtRest();

@@ -3,15 +3,16 @@
 
 #include "documents/paths.h"
 #include "documents/undo.h"
-#include "editing/lists.h"
 #include "platform/drop_down_list.h"
 #include "platform/icons.h"
 #include "platform/literals.h"
 #include "platform/text.h"
 #include "platform/twips.h"
-#include "shell/commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/lists.h"
+#include "state/neighbours.h"
+#include "state/windows.h"
 
 #include <QKeyEvent>
 #include <QToolBar>
@@ -92,8 +93,8 @@ void Frm_Code::OnUnload() {
     RememberTools();
     Neighbours::SetStatusPanel(RowPanel, {});
     Neighbours::SetStatusPanel(ColumnPanel, {});
-    Neighbours::UnloadWindow(u"Frm_DeBug"_s);
-    Neighbours::UnloadWindow(u"Frm_Search"_s);
+    Windows::Unload(u"Frm_DeBug");
+    Windows::Unload(u"Frm_Search");
     Global::HeldSource = TextBox->Text();
     TextBox->events = {};
     if (Global::ProjectWindowOpen) Neighbours::RefreshProject();
@@ -103,14 +104,14 @@ void Frm_Code::OnUnload() {
 
 void Frm_Code::ReopenTools() {
     for (const Tool& tool : Tools) {
-        if ((*tool.place)[0] == u"True") Neighbours::RunTool(tool.window.toString());
+        if ((*tool.place)[0] == u"True") Windows::Show(tool.window);
     }
 }
 
 void Frm_Code::RememberTools() {
     for (const Tool& tool : Tools) {
         const bool open = *tool.open;
-        if (open) Neighbours::UnloadWindow(tool.window.toString());
+        if (open) Windows::Unload(tool.window);
         (*tool.place)[0] = open ? u"True"_s : u"False"_s;
     }
 }

@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "documents/code_host.h"
 #include "documents/txt_code.h"
 #include "platform/mdi_child.h"
 
 #include <cstdint>
 
-class DropDownList;
 class QLabel;
-class QToolBar;
 
 // The one document window. Its text survives its closing in Global::HeldSource.
-class Frm_Code : public MdiChild {
+class Frm_Code : public MdiChild, public CodeHost {
     Q_OBJECT
 
 public:
@@ -25,12 +24,17 @@ public:
     void ActualizeSize();
     // Shows line and column in the status bar.
     void GetCursorPos();
-    // Lets every key that `control` gets take an undo copy first.
-    void TakeIntoKeyPreview(QWidget* control) { control->installEventFilter(this); }
     // Runs the check, if the debugger is shown, once per change: when the user leaves the spot.
     void CheckOnce();
-    // Twips by which the code box's top stands below the window's; 330 while the script bar shows.
-    int CodeTop() const { return m_codeTop; }
+
+    QWidget* Window() override { return this; }
+    Txt_Code& Box() override { return *TextBox; }
+    int CodeTop() const override { return m_codeTop; }
+    void TakeIntoKeyPreview(QWidget* control) override { control->installEventFilter(this); }
+    ScriptControls ScriptBar() override { return {Cmb_Functions, Cmb_Variables, Tlb_JavaScript}; }
+    const QString& HelpFile() const override { return AssistantHelpText; }
+    const QString& AttributeFile() const override { return AttributeText; }
+    const QString& ScriptObjectFile() const override { return ScriptObjectText; }
 
     bool ScriptBarShown;        // the script bar is uncovered: always as its command is checked
     std::int16_t FitMode = 0;   // 2 while the window is held to the main window's client area

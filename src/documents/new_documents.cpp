@@ -6,8 +6,9 @@
 #include "documents/templates.h"
 #include "documents/undo.h"
 #include "platform/literals.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
+#include "state/windows.h"
 
 namespace Documents {
 
@@ -23,7 +24,7 @@ struct Kind {
 
 void Create(const Kind& kind) {
     Undo::UndoClear();
-    Neighbours::UnloadWindow(u"Frm_Welcome"_s);
+    Windows::Unload(u"Frm_Welcome");
     Global::DocType = kind.type;
     Neighbours::SetStatusPanel(1, kind.panel);
     ForgetText();
@@ -40,7 +41,7 @@ void Create(const Kind& kind) {
     Neighbours::ActivateToolBar();
     if (Global::ProjectWindowOpen) Neighbours::SearchLinks();
     if (Global::FormatSubClassOpen) Neighbours::UpdateClassList();
-    Neighbours::UnloadWindow(u"Frm_Browser"_s);
+    Windows::Unload(u"Frm_Browser");
     if (!kind.plainText) {
         if (Global::AutoDebug) Neighbours::ShowDebugger();
         if (Global::AutoProjectManager) {
@@ -81,7 +82,7 @@ void Menu_File_NewWAPPage() { AskAndThen(CreateNewWMLFile); }
 void Menu_File_NewFile() { AskAndThen(CreateNewTextFile); }
 
 void Menu_File_NewDocument() {
-    AskAndThen([] { Neighbours::RunTool(u"Frm_Welcome"_s); });
+    AskAndThen([] { Windows::Show(u"Frm_Welcome"); });
 }
 
 } // namespace Documents

@@ -7,9 +7,9 @@
 #include "documents/new_documents.h"
 #include "platform/files.h"
 #include "platform/literals.h"
-#include "shell/commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <utility>
 

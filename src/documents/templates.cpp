@@ -2,7 +2,7 @@
 #include "documents/templates.h"
 
 #include "platform/literals.h"
-#include "shell/global.h"
+#include "state/global.h"
 
 #include <QStringList>
 

@@ -5,9 +5,9 @@
 #include "documents/text_history.h"
 #include "platform/literals.h"
 #include "platform/text.h"
-#include "shell/commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <QScopedValueRollback>
 

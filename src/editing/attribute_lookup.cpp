@@ -2,9 +2,9 @@
 #include "editing/attribute_lookup.h"
 
 #include "documents/code_access.h"
-#include "editing/lists.h"
 #include "platform/text.h"
-#include "shell/global.h"
+#include "state/global.h"
+#include "state/lists.h"
 
 namespace AttributeLookup {
 

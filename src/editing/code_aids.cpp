@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "editing/code_aids.h"
 
-#include "documents/frm_code.h"
+#include "documents/code_host.h"
+#include "documents/txt_code.h"
 #include "editing/key_handling.h"
 #include "editing/popup_list.h"
 #include "editing/script_bar.h"
 #include "editing/tag_watch.h"
 #include "editing/umlauts.h"
 #include "platform/literals.h"
-#include "shell/commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <QPointer>
 
@@ -20,7 +21,7 @@ namespace {
 
 // What is attached to the present document window; both go with it.
 struct Attached {
-    Frm_Code* window = nullptr;
+    CodeHost* window = nullptr;
     QPointer<PopupList> list;
 };
 Attached& Present() {
@@ -28,7 +29,7 @@ Attached& Present() {
     return present;
 }
 
-void Attach(Frm_Code* window) {
+void Attach(CodeHost* window) {
     Present() = {};
     if (!window) return;
     Present() = {window, new PopupList(window)};
@@ -38,8 +39,8 @@ void Attach(Frm_Code* window) {
 void WatchTag() {
     if (!Present().window || !Commands::IsChecked(u"Menu_Help_Assistant"_s) || !Global::AssistantOpen) return;
     Neighbours::RunAnimation(0, {});
-    const Txt_Code& box = *Present().window->TextBox;
-    const auto remark = TagWatch::Watch(box.Text(), box.SelStart(), Present().window->AssistantHelpText);
+    const Txt_Code& box = Present().window->Box();
+    const auto remark = TagWatch::Watch(box.Text(), box.SelStart(), Present().window->HelpFile());
     if (remark) Neighbours::RunAnimation(remark->urgency, remark->text);
 }
 
@@ -77,12 +78,12 @@ void Wire() {
     WatchTagForAssistant.AnsweredBy(WatchTag);
     Neighbours::SubstituteUmlauts.AnsweredBy([] {
         if (!Present().window) return;
-        Txt_Code& box = *Present().window->TextBox;
+        Txt_Code& box = Present().window->Box();
         const Txt_Code::OneStep step(box); // one undo takes the substitution back
         Umlauts::SubstituteUmlauts(box);
     });
     CodeKeyDown.AnsweredBy([](int key, int shift) {
-        if (Present().window) KeyHandling::KeyDown(*Present().window->TextBox, key, shift);
+        if (Present().window) KeyHandling::KeyDown(Present().window->Box(), key, shift);
     });
     CodeKeyUp.AnsweredBy(KeyUp);
     CodeMouseDown.AnsweredBy([](int button, int, double x, double y) { MouseDown(button, x, y); });

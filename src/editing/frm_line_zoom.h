@@ -23,8 +23,6 @@ public:
     void SaveLine();
 
 private:
-    void RestorePlace();
-    void StorePlace() const;
     void Txt_LineZoom_KeyUp(int key);
 
     Txt_Code* const Txt_LineZoom;

@@ -3,10 +3,10 @@
 
 #include "documents/code_box.h"
 #include "documents/paths.h"
+#include "editing/edit_commands.h"
 #include "platform/text.h"
-#include "shell/edit_commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 namespace KeyHandling {
 

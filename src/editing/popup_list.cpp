@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "editing/popup_list.h"
 
-#include "documents/frm_code.h"
+#include "documents/code_host.h"
+#include "documents/txt_code.h"
 #include "documents/undo.h"
 #include "editing/attribute_lookup.h"
 #include "editing/auto_word.h"
@@ -9,8 +10,8 @@
 #include "platform/literals.h"
 #include "platform/text.h"
 #include "platform/twips.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -32,8 +33,8 @@ QString IconOf(const QString& key) {
 
 } // namespace
 
-PopupList::PopupList(Frm_Code* window)
-    : QListWidget(window), m_window(window), Pic_Shadow(new QFrame(window)) {
+PopupList::PopupList(CodeHost* window)
+    : QListWidget(window->Window()), m_window(window), Pic_Shadow(new QFrame(window->Window())) {
     setObjectName(u"Lvw_Attributes"_s);
     setAccessibleName(u"Vorschläge"_s);
     Pic_Shadow->setObjectName(u"Pic_Shadow"_s);
@@ -94,7 +95,7 @@ void PopupList::RightClick(double x, double y) {
     Hide();
     clear();
     if (Global::UseWindowsMenu) Neighbours::UnloadMenuAttributes();
-    const bool words = AttributeLookup::HasWords(m_window->TextBox->SelText());
+    const bool words = AttributeLookup::HasWords(m_window->Box().SelText());
     InsertAsValue = words;
     TagStart = TagNameLength = 0;
     if (words) {
@@ -114,34 +115,35 @@ void PopupList::RightClick(double x, double y) {
     }
     // Beside a tag the menu still has its own entries.
     if (Global::UseWindowsMenu) {
-        const QPoint place = m_window->TextBox->mapToGlobal(QPoint(Twips::ToPixels(x), Twips::ToPixels(y)));
+        const QPoint place = m_window->Box().mapToGlobal(QPoint(Twips::ToPixels(x), Twips::ToPixels(y)));
         Neighbours::PopupCodeMenu(place.x(), place.y());
     }
 }
 
 void PopupList::FillWithWords() {
-    for (const QString& word : AttributeLookup::WordsFor(m_window->TextBox->SelText())) AddForMouse(word);
+    for (const QString& word : AttributeLookup::WordsFor(m_window->Box().SelText())) AddForMouse(word);
 }
 
 void PopupList::FillWithAttributes() {
-    const auto tag = AttributeLookup::TagAt(m_window->TextBox->Text(), m_window->TextBox->SelStart());
+    const auto tag = AttributeLookup::TagAt(m_window->Box().Text(), m_window->Box().SelStart());
     if (!tag) return;
     TagStart = tag->start;
     TagNameLength = tag->nameLength;
     TagClosedAtName = tag->closedAtName;
-    for (const QString& attribute : AttributeLookup::AttributesOf(m_window->AttributeText, tag->name)) {
+    for (const QString& attribute : AttributeLookup::AttributesOf(m_window->AttributeFile(), tag->name)) {
         AddForMouse(attribute);
     }
 }
 
 void PopupList::ShowMembersAtDot() {
-    const Txt_Code& box = *m_window->TextBox;
-    ShowObjectMembers(ScriptMembers::ObjectBeforeDot(box.Text(), box.SelStart(), m_window->ScriptObjectText));
+    const Txt_Code& box = m_window->Box();
+    ShowObjectMembers(
+        ScriptMembers::ObjectBeforeDot(box.Text(), box.SelStart(), m_window->ScriptObjectFile()));
 }
 
 void PopupList::ShowObjectMembers(const QString& name) {
     using Kind = ScriptMembers::Member::Kind;
-    const auto members = ScriptMembers::MembersOf(m_window->ScriptObjectText, name);
+    const auto members = ScriptMembers::MembersOf(m_window->ScriptObjectFile(), name);
     if (members.isEmpty()) return;
     clear();
     for (const auto& member : members) {
@@ -157,7 +159,7 @@ void PopupList::ShowObjectMembers(const QString& name) {
 }
 
 void PopupList::OpenAutoWord(double offset) {
-    Txt_Code& box = *m_window->TextBox;
+    Txt_Code& box = m_window->Box();
     Attempt([&] {
         box.SetSelStart(box.SelStart() + static_cast<qsizetype>(offset));
         const AutoWord::Completion found = AutoWord::Complete(box.Text(), box.SelStart());
@@ -197,7 +199,7 @@ void PopupList::SetPlace(double x, double y) {
 }
 
 void PopupList::PlaceAttributeList() {
-    const QRect box = m_window->TextBox->geometry();
+    const QRect box = m_window->Box().geometry();
     QRect place = geometry();
     if (place.right() > box.right()) place.moveRight(box.right());
     if (place.bottom() > box.bottom()) place.moveBottom(box.bottom());
@@ -207,7 +209,7 @@ void PopupList::PlaceAttributeList() {
 
 void PopupList::ShowAttributeList() {
     const int offset = Twips::ToPixels(ShadowOffset);
-    Pic_Shadow->setGeometry(geometry().translated(offset, offset).intersected(m_window->rect()));
+    Pic_Shadow->setGeometry(geometry().translated(offset, offset).intersected(m_window->Window()->rect()));
     Pic_Shadow->show();
     Pic_Shadow->raise();
     show();
@@ -227,7 +229,7 @@ void PopupList::TakeKeyboard() {
 // ---------------------------------------------------------------------------------------------------------
 
 void PopupList::InsertAttribute(const QString& text) {
-    Txt_Code& box = *m_window->TextBox;
+    Txt_Code& box = m_window->Box();
     Attempt([&] {
         Undo::PushUndo();
         ListActive = false;
@@ -246,7 +248,7 @@ void PopupList::InsertAttribute(const QString& text) {
 }
 
 void PopupList::ChooseWord(const QString& text) {
-    Txt_Code& box = *m_window->TextBox;
+    Txt_Code& box = m_window->Box();
     box.SetSelStart(AutoWordStart);
     box.SetSelLength(AutoWordEnd - AutoWordStart);
     box.SetSelText(text);
@@ -258,7 +260,7 @@ void PopupList::ChooseWord(const QString& text) {
 
 void PopupList::Choose(QListWidgetItem* item) {
     if (!item) return;
-    Txt_Code& box = *m_window->TextBox;
+    Txt_Code& box = m_window->Box();
     const QString text = item->text();
     const QString tag = item->data(Qt::UserRole).toString();
     Attempt([&] {
@@ -275,7 +277,7 @@ void PopupList::Choose(QListWidgetItem* item) {
 }
 
 void PopupList::keyPressEvent(QKeyEvent* event) {
-    Txt_Code& box = *m_window->TextBox;
+    Txt_Code& box = m_window->Box();
     const auto backToCode = [&] {
         box.SetFocus();
         box.SetSelLength(0);

@@ -7,7 +7,7 @@
 #include <QListWidget>
 #include <cstdint>
 
-class Frm_Code;
+class CodeHost;
 
 // The one popup list of the document window, Lvw_Attributes, with its shadow. It offers attributes of a tag,
 // words for the selection, members of a script object or continuations of a word. All places in twips.
@@ -15,7 +15,7 @@ class PopupList : public QListWidget {
     Q_OBJECT
 
 public:
-    explicit PopupList(Frm_Code* window);
+    explicit PopupList(CodeHost* window);
 
     void Hide();
     void RightClick(double x, double y);
@@ -46,7 +46,7 @@ private:
     void Choose(QListWidgetItem* item);
     void ChooseWord(const QString& text);
 
-    Frm_Code* m_window;
+    CodeHost* m_window;
     QFrame* Pic_Shadow;
     qsizetype TagStart = 0;
     qsizetype TagNameLength = 0;

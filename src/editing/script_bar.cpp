@@ -2,7 +2,8 @@
 #include "editing/script_bar.h"
 
 #include "documents/code_access.h"
-#include "documents/frm_code.h"
+#include "documents/code_host.h"
+#include "documents/txt_code.h"
 #include "documents/undo.h"
 #include "platform/drop_down_list.h"
 #include "platform/icons.h"
@@ -16,8 +17,8 @@ namespace ScriptBar {
 
 namespace {
 
-void JumpToFunction(Frm_Code& window, const QString& name) {
-    Txt_Code& box = *window.TextBox;
+void JumpToFunction(CodeHost& window, const QString& name) {
+    Txt_Code& box = window.Box();
     // With a blank between name and bracket it is not found; then the caret stays and the selection
     // collapses.
     Attempt([&] { box.SetSelStart(Text::Find(box.Text(), QString(u"function " + name + u'(')) - 1); });
@@ -25,14 +26,14 @@ void JumpToFunction(Frm_Code& window, const QString& name) {
     box.SetFocus();
 }
 
-void InsertVariable(Frm_Code& window, const QString& name) {
+void InsertVariable(CodeHost& window, const QString& name) {
     Undo::PushUndo();
-    window.TextBox->SetSelText(name);
-    window.TextBox->SetFocus();
+    window.Box().SetSelText(name);
+    window.Box().SetFocus();
 }
 
-void InsertNewFunction(Frm_Code& window) {
-    Txt_Code& box = *window.TextBox;
+void InsertNewFunction(CodeHost& window) {
+    Txt_Code& box = window.Box();
     Undo::PushUndo();
     box.SetSelText(u"function NeueFunktion()\r\n{\r\n\t\r\n\t\r\n}"_s);
     constexpr qsizetype BehindTheTab = 3; // the line break and the closing brace
@@ -42,29 +43,30 @@ void InsertNewFunction(Frm_Code& window) {
 
 } // namespace
 
-void Attach(Frm_Code& window) {
-    Frm_Code* const code = &window;
-    window.Cmb_Functions->setPlaceholderText(u"Funktionen"_s);
-    window.Cmb_Functions->setAccessibleName(u"Funktionen"_s);
-    window.Cmb_Functions->entries = [code] { return CodeAccess::ScanFunctions(code->TextBox->Text()); };
-    window.Cmb_Variables->setPlaceholderText(u"Variablen"_s);
-    window.Cmb_Variables->setAccessibleName(u"Variablen"_s);
-    window.Cmb_Variables->entries = [code] { return CodeAccess::ScanVariables(code->TextBox->Text()); };
-    QObject::connect(window.Cmb_Functions, &QComboBox::textActivated, code,
+void Attach(CodeHost& window) {
+    CodeHost* const code = &window;
+    const CodeHost::ScriptControls bar = window.ScriptBar();
+    bar.functions->setPlaceholderText(u"Funktionen"_s);
+    bar.functions->setAccessibleName(u"Funktionen"_s);
+    bar.functions->entries = [code] { return CodeAccess::ScanFunctions(code->Box().Text()); };
+    bar.variables->setPlaceholderText(u"Variablen"_s);
+    bar.variables->setAccessibleName(u"Variablen"_s);
+    bar.variables->entries = [code] { return CodeAccess::ScanVariables(code->Box().Text()); };
+    QObject::connect(bar.functions, &QComboBox::textActivated, code->Window(),
                      [code](const QString& name) { JumpToFunction(*code, name); });
-    QObject::connect(window.Cmb_Variables, &QComboBox::textActivated, code,
+    QObject::connect(bar.variables, &QComboBox::textActivated, code->Window(),
                      [code](const QString& name) { InsertVariable(*code, name); });
-    QAction* create = window.Tlb_JavaScript->addAction(Icons::Named(u"insert"), u"Neue Funktion"_s);
+    QAction* create = bar.tools->addAction(Icons::Named(u"insert"), u"Neue Funktion"_s);
     create->setObjectName(u"Tlb_JavaScript_NewFunction"_s);
     create->setToolTip(u"Neue Funktion einfügen"_s);
-    window.Tlb_JavaScript->setIconSize({16, 16});
-    window.Tlb_JavaScript->setContentsMargins(0, 0, 0, 0);
-    QObject::connect(create, &QAction::triggered, code, [code] { InsertNewFunction(*code); });
+    bar.tools->setIconSize({16, 16});
+    bar.tools->setContentsMargins(0, 0, 0, 0);
+    QObject::connect(create, &QAction::triggered, code->Window(), [code] { InsertNewFunction(*code); });
 }
 
-void InsertCurrentVariable(Frm_Code& window) {
-    if (!window.Cmb_Variables->currentText().isEmpty())
-        InsertVariable(window, window.Cmb_Variables->currentText());
+void InsertCurrentVariable(CodeHost& window) {
+    const QString name = window.ScriptBar().variables->currentText();
+    if (!name.isEmpty()) InsertVariable(window, name);
 }
 
 } // namespace ScriptBar

@@ -2,13 +2,13 @@
 // The bar above the code: functions and variables of the script, and a new function with one click.
 #pragma once
 
-class Frm_Code;
+class CodeHost;
 
 namespace ScriptBar {
 
 // Makes the controls of the window's bar work. Its lists are filled when they drop down.
-void Attach(Frm_Code& window);
+void Attach(CodeHost& window);
 // Inserts the chosen variable at the caret.
-void InsertCurrentVariable(Frm_Code& window);
+void InsertCurrentVariable(CodeHost& window);
 
 } // namespace ScriptBar

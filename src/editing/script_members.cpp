@@ -2,8 +2,8 @@
 #include "editing/script_members.h"
 
 #include "documents/paths.h"
-#include "editing/lists.h"
 #include "platform/text.h"
+#include "state/lists.h"
 
 namespace ScriptMembers {
 

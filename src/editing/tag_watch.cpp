@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "editing/tag_watch.h"
 
-#include "editing/lists.h"
 #include "platform/text.h"
+#include "state/lists.h"
 
 #include <algorithm>
 

@@ -6,8 +6,9 @@
 #include "preview/browser_address.h"
 #include "preview/preview_page.h"
 #include "preview/preview_view.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
+#include "state/windows.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -52,7 +53,7 @@ void Frm_Browser::OnLoad() {
 
 void Frm_Browser::OnUnload() {
     Global::BrowserOpen = false;
-    if (Global::NavigationBarOpen) Neighbours::UnloadWindow(u"Frm_Navigation"_s);
+    if (Global::NavigationBarOpen) Windows::Unload(u"Frm_Navigation");
     if (Global::AssistantOpen) Neighbours::RunAnimation(0, {});
     Neighbours::ActivateFunktions();
 }

@@ -4,21 +4,18 @@
 #include "platform/icons.h"
 #include "platform/literals.h"
 #include "platform/mdi_child.h"
-#include "platform/numbers.h"
-#include "platform/text.h"
 #include "platform/twips.h"
 #include "preview/frm_browser.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
+#include "state/tool_place.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMdiArea>
-#include <QScreen>
 #include <QToolBar>
 #include <algorithm>
 #include <limits>
@@ -83,7 +80,7 @@ void Frm_Navigation::OnLoad() {
         Neighbours::RunAnimation(1, u"Mit dieser Leiste können Sie den Browser navigieren."_s);
     }
     Global::NavigationBarOpen = true;
-    RestorePlace();
+    ToolPlace::Restore(*this, Global::NavigationPos, ToolPlace::Keeps::Place);
     if (!Loaded<Frm_Browser>()) return;
     Frm_Browser& browser = Shared<Frm_Browser>();
     const auto showStatus = [this](const QString& text) { setWindowTitle(Caption + u" - "_s + text); };
@@ -96,22 +93,7 @@ void Frm_Navigation::OnLoad() {
 void Frm_Navigation::OnUnload() {
     if (Global::AssistantOpen) Neighbours::RunAnimation(0, {});
     Global::NavigationBarOpen = false;
-    Global::NavigationPos[1] = QString::number(Twips::FromPixels(x()));
-    Global::NavigationPos[2] = QString::number(Twips::FromPixels(y()));
-}
-
-void Frm_Navigation::RestorePlace() {
-    QPoint place;
-    Attempt([&] {
-        place = {Twips::ToPixels(Numbers::ReadNumber(Global::NavigationPos[1])),
-                 Twips::ToPixels(Numbers::ReadNumber(Global::NavigationPos[2]))};
-    });
-    // a bar from a screen that is gone comes back where it can be reached
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    const bool visible = std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
-        return screen->availableGeometry().contains(place);
-    });
-    move(visible ? place : QGuiApplication::primaryScreen()->availableGeometry().topLeft() + QPoint(40, 40));
+    ToolPlace::Store(*this, Global::NavigationPos, ToolPlace::Keeps::Place);
 }
 
 void Frm_Navigation::Present() {

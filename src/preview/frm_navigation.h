@@ -25,7 +25,6 @@ protected:
 
 private:
     void AddButton(const QString& key, const QString& tip, QStringView icon, void (*press)());
-    void RestorePlace();
     void Cmb_Url_Change(const QString& text);
 
     QToolBar* Tlb_Navigation;

@@ -9,9 +9,9 @@
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/text.h"
-#include "shell/commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <algorithm>
 

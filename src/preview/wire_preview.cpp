@@ -5,8 +5,9 @@
 #include "platform/literals.h"
 #include "preview/frm_browser.h"
 #include "preview/frm_navigation.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
+#include "state/windows.h"
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -50,7 +51,7 @@ void WirePreview() {
 }
 
 void StartBrowsing() {
-    Neighbours::UnloadWindow(u"Frm_Welcome"_s);
+    Windows::Unload(u"Frm_Welcome");
     Shared<Frm_Browser>().SetBrowsingAlone(true);
     Shared<Frm_Browser>().BringToFront();
     Shared<Frm_Navigation>().Present();

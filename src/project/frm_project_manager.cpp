@@ -9,8 +9,8 @@
 #include "platform/literals.h"
 #include "platform/text.h"
 #include "project/file_list_model.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <QAction>
 #include <QMdiArea>

@@ -10,7 +10,7 @@
 #include "platform/text.h"
 #include "project/file_list_model.h"
 #include "project/frm_project_manager.h"
-#include "shell/global.h"
+#include "state/global.h"
 
 #include <QAction>
 #include <QPointer>

@@ -7,8 +7,8 @@
 #include "platform/twips.h"
 #include "project/file_list_model.h"
 #include "project/frm_project_manager.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

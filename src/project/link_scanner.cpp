@@ -10,7 +10,7 @@
 #include "platform/text.h"
 #include "project/file_management.h"
 #include "project/link_list.h"
-#include "shell/global.h"
+#include "state/global.h"
 
 #include <QHash>
 #include <QSet>

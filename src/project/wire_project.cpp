@@ -2,8 +2,8 @@
 #include "project/wire_project.h"
 
 #include "project/frm_project_manager.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 namespace Project {
 

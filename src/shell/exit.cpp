@@ -6,8 +6,9 @@
 #include "platform/files.h"
 #include "platform/literals.h"
 #include "shell/frm_main.h"
-#include "shell/global.h"
-#include "shell/settings.h"
+#include "state/global.h"
+#include "state/settings.h"
+#include "state/windows.h"
 
 #include <QCloseEvent>
 
@@ -24,8 +25,7 @@ void Frm_Main::closeEvent(QCloseEvent* event) {
 bool Frm_Main::Exit() {
     if (m_ending) return true;
     m_ending = true;
-    for (const QString& tool : {u"Frm_Color"_s, u"Frm_KCC"_s, u"Frm_TagTools"_s})
-        Neighbours::UnloadWindow(tool);
+    for (const QString& tool : {u"Frm_Color"_s, u"Frm_KCC"_s, u"Frm_TagTools"_s}) Windows::Unload(tool);
     bool write = true;
     if (Global::DocChanged) {
         const auto answer = Dialogs::MsgBox(

@@ -5,7 +5,7 @@
 #include "platform/icons.h"
 #include "platform/literals.h"
 #include "shell/addresses.h"
-#include "shell/global.h"
+#include "state/global.h"
 
 #include <QLabel>
 #include <QPushButton>

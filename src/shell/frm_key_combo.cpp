@@ -4,48 +4,34 @@
 #include "documents/txt_code.h"
 #include "editing/plain_text_box.h"
 #include "platform/literals.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 Frm_KeyCombo::Frm_KeyCombo()
-    : Cmb_Keys(new QComboBox),
+    : ToolDialog(
+          u"Frm_KeyCombo"_s, u"Tastenkürtzel festlegen"_s, // the spelling is meant to stay
+          u"Hier können Sie Tastenkürtzel festlegen, die die Arbeit beschleunigen können. Wählen sie eine "
+          "Kombination aus und geben Sie den Text ein der beim Betätigen dieser Tastenkombination in das "
+          "Dokument eingefügt werden soll. Klicken Sie nach jeder Änderung auf 'Übernehmen'."_s),
+      Cmb_Keys(new QComboBox),
       Txt_InsertText(MakePlainTextBox(u"Txt_InsertText"_s, u"Text des Tastenkürzels"_s)) {
-    setObjectName(u"Frm_KeyCombo"_s);
-    setWindowTitle(u"Tastenkürtzel festlegen"_s); // the spelling is meant to stay
-    auto* choose = new QLabel(u"Wählen Sie eine Tastenkombination aus:"_s);
-    choose->setObjectName(u"Lbl_Keys"_s);
-    choose->setBuddy(Cmb_Keys);
-    auto* define = new QLabel(u"Tastenkürzel festlegen..."_s);
-    define->setObjectName(u"Lbl_InsertText"_s);
-    define->setBuddy(Txt_InsertText);
     Cmb_Keys->setObjectName(u"Cmb_Keys"_s);
     Txt_InsertText->setTabChangesFocus(true);
-
-    auto* all = new QVBoxLayout(this);
     auto* keys = new QHBoxLayout;
-    keys->addWidget(choose);
+    keys->addWidget(LabelFor(Cmb_Keys, u"Lbl_Keys"_s, u"Wählen Sie eine Tastenkombination aus:"_s));
     keys->addWidget(Cmb_Keys);
     keys->addStretch();
-    all->addLayout(keys);
-    all->addSpacing(6);
-    all->addWidget(define);
-    all->addWidget(Txt_InsertText, 1);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    const QString captions[] = {u"Ü&bernehmen"_s, u"S&chließen"_s};
-    for (int index : {0, 1}) {
-        auto* button = new QPushButton(captions[index]);
-        button->setObjectName(u"Cmd_Control_"_s + QString::number(index));
-        button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, [this, index] { Cmd_Control(index); });
-        buttons->addWidget(button);
-    }
-    all->addLayout(buttons);
+    Content()->addLayout(keys);
+    Content()->addWidget(LabelFor(Txt_InsertText, u"Lbl_InsertText"_s, u"Tastenkürzel festlegen..."_s));
+    Content()->addWidget(Txt_InsertText, 1);
+    AddControl(0, u"Ü&bernehmen"_s, [this] { StoredText() = Txt_InsertText->Text(); })->setDefault(false);
+    AddControl(1, u"S&chließen"_s, [this] { Leave(); });
     resize(440, 280);
 }
 
@@ -60,18 +46,6 @@ void Frm_KeyCombo::OnUnload() {
     if (Global::AssistantOpen) Neighbours::RunAnimation(0, {});
 }
 
-void Frm_KeyCombo::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (Global::AssistantOpen) {
-        Neighbours::RunAnimation(
-            1,
-            u"Hier können Sie Tastenkürtzel festlegen, die die Arbeit beschleunigen können. Wählen sie eine "
-            "Kombination aus und geben Sie den Text ein der beim Betätigen dieser Tastenkombination in das "
-            "Dokument "
-            "eingefügt werden soll. Klicken Sie nach jeder Änderung auf 'Übernehmen'."_s);
-    }
-}
-
 QString& Frm_KeyCombo::StoredText() const {
     return Global::KeyCombos[static_cast<size_t>(Cmb_Keys->currentIndex())];
 }
@@ -79,12 +53,4 @@ QString& Frm_KeyCombo::StoredText() const {
 void Frm_KeyCombo::Cmb_Keys_Click() {
     Txt_InsertText->SetText(StoredText());
     Txt_InsertText->document()->clearUndoRedoStacks(); // undoing must not bring in another entry's text
-}
-
-void Frm_KeyCombo::Cmd_Control(int index) {
-    if (index == 0) {
-        StoredText() = Txt_InsertText->Text();
-    } else if (unloadSelf) {
-        unloadSelf();
-    }
 }

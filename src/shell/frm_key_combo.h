@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/window.h"
-
-#include <QDialog>
+#include "documents/tool_dialog.h"
 
 class QComboBox;
 class Txt_Code;
 
 // The texts that Ctrl+0 to Ctrl+9 insert in the code box. Only its first button stores a text.
-class Frm_KeyCombo : public QDialog, public SharedWindow {
+class Frm_KeyCombo : public ToolDialog {
     Q_OBJECT
 
 public:
@@ -17,14 +15,10 @@ public:
     void OnLoad() override;
     void OnUnload() override;
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
     // The stored text of the selected combination.
     QString& StoredText() const;
     void Cmb_Keys_Click();
-    void Cmd_Control(int index);
 
     QComboBox* Cmb_Keys;
     Txt_Code* Txt_InsertText;

@@ -9,11 +9,12 @@
 #include "platform/literals.h"
 #include "platform/mdi_child.h"
 #include "platform/twips.h"
-#include "shell/activation.h"
-#include "shell/commands.h"
-#include "shell/global.h"
 #include "shell/main_menu.h"
 #include "shell/status_bar.h"
+#include "state/activation.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/windows.h"
 
 #include <QDragEnterEvent>
 #include <QMdiArea>
@@ -201,7 +202,7 @@ void Frm_Main::PopupCodeMenu(const QPoint& globalPosition) { m_menu->CodeMenu()-
 
 void Frm_Main::StartBrowser() {
     setWindowTitle(Global::ProgramName + u" [Browser]"_s);
-    Neighbours::RunTool(u"Frm_Browser"_s);
+    Windows::Show(u"Frm_Browser");
 }
 
-void Frm_Main::StartWAPBrowser() { Neighbours::RunTool(u"WAPBrowser"_s); }
+void Frm_Main::StartWAPBrowser() { Windows::Show(u"WAPBrowser"); }

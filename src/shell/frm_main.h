@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/window.h"
-#include "shell/neighbours.h"
+#include "state/neighbours.h"
 
 #include <QMainWindow>
 
@@ -21,8 +21,10 @@ public:
 
     // Recomputes which commands are open; called behind every change of the document's state.
     void ActivateFunktions();
-    // Carries out the command of a menu item by its name.
-    void RunCommand(const QString& name);
+    // Carries out the command of a menu item by its name; returns whether there is one.
+    bool RunCommand(const QString& name);
+    // Whether something answers to the menu item.
+    static bool HasCommand(const QString& name);
     void AddMenuAttribute(const QString& caption, const QString& tag);
     void UnloadMenuAttributes();
     // Browsing without a document, and its counterpart for the WAP simulation.
@@ -85,9 +87,6 @@ QString CheckInstallation();
 // The file that a whole command line names: without double quotes at both ends, full, in the program's form.
 // Empty for an empty line.
 QString FileArgument(const QString& commandLine);
-// `place` (pixels, outer) made to lie whole on one of the `screens` (the first one is the main screen), and
-// not too small to be used.
-QRect FittedToScreen(QRect place, const QList<QRect>& screens);
 // Makes the system's clipboard the program's.
 void ConnectClipboard();
 // Ends the program at once, without the exit sequence.

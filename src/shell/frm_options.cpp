@@ -5,8 +5,8 @@
 #include "platform/files.h"
 #include "platform/icons.h"
 #include "platform/text.h"
-#include "shell/global.h"
 #include "shell/wrapping_check_box.h"
+#include "state/global.h"
 
 #include <QFormLayout>
 #include <QLabel>

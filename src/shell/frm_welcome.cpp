@@ -7,9 +7,9 @@
 #include "documents/paths.h"
 #include "platform/icons.h"
 #include "platform/literals.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
-#include "shell/settings.h"
+#include "state/global.h"
+#include "state/neighbours.h"
+#include "state/settings.h"
 
 #include <QHBoxLayout>
 #include <QListWidget>

@@ -3,7 +3,7 @@
 
 #include "platform/icons.h"
 #include "platform/literals.h"
-#include "shell/commands.h"
+#include "state/commands.h"
 
 #include <QAction>
 #include <QMainWindow>

@@ -6,21 +6,22 @@
 #include "documents/new_documents.h"
 #include "documents/recovery.h"
 #include "documents/undo.h"
+#include "editing/edit_commands.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/literals.h"
 #include "preview/preview_commands.h"
-#include "project/wire_project.h"
 #include "shell/addresses.h"
-#include "shell/commands.h"
-#include "shell/edit_commands.h"
 #include "shell/frm_main.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/neighbours.h"
+#include "state/windows.h"
 
 #include <QFileInfo>
 #include <QHash>
 #include <QProcess>
+#include <algorithm>
 
 namespace {
 
@@ -75,7 +76,7 @@ void Menu_Tools_AutoUml() {
 void Menu_View_CloseTools() {
     for (const QString& tool : {u"Frm_Color"_s, u"Frm_KCC"_s, u"Frm_TagTools"_s, u"Frm_Events"_s,
                                 u"Frm_Characters"_s, u"Frm_FormatSubClass"_s}) {
-        Neighbours::UnloadWindow(tool);
+        Windows::Unload(tool);
     }
 }
 
@@ -156,8 +157,7 @@ void AddHelpHandlers(Handlers& handlers) {
          {u"Menu_Help_Internet_WAP"_s, [] { OpenAddress(Addresses::WAP); }},
          {u"Menu_Help_MailToVelonar"_s, [] { OpenAddress(Addresses::Mail); }},
          {u"Menu_Help_MailBug"_s, [] { OpenAddress(Addresses::MailBug); }},
-         {u"Menu_Help_Index"_s, [] { Neighbours::RunTool(u"Frm_Help"_s); }},
-         {u"Menu_Help_Info"_s, [] { Neighbours::RunTool(u"Frm_Info"_s); }},
+
          {u"Menu_Help_Assistant"_s, [] { Neighbours::ShowAssistant(Flip(u"Menu_Help_Assistant"_s)); }}});
 }
 
@@ -167,13 +167,11 @@ void AddViewHandlers(Handlers& handlers) {
                      {u"Menu_View_Browser_Temp"_s, Preview::Menu_View_Browser_Temp},
                      {u"Menu_View_Browser_Project"_s, Preview::Menu_View_Browser_Project},
                      {u"Menu_View_Browser_WAP"_s, Preview::Menu_View_Browser_WAP},
-                     {u"Menu_View_Navigation"_s, [] { Neighbours::RunTool(u"Frm_Navigation"_s); }},
+
                      {u"Menu_View_CloseTools"_s, Menu_View_CloseTools},
-                     {u"Menu_View_Zoom"_s, [] { Neighbours::RunTool(u"Frm_LineZoom"_s); }},
-                     {u"Menu_Menu_Code_Zoom"_s, [] { Neighbours::RunTool(u"Frm_LineZoom"_s); }},
-                     {u"Menu_Tools_ProjectManager"_s, Project::Menu_Tools_ProjectManager_Click},
-                     {u"Menu_Tools_KeyCombo"_s, [] { Neighbours::RunTool(u"Frm_KeyCombo"_s); }},
-                     {u"Menu_Tools_Options"_s, [] { Neighbours::RunTool(u"Frm_Options"_s); }},
+
+                     {u"Menu_Menu_Code_Zoom"_s, [] { Windows::Show(u"Frm_LineZoom"); }},
+
                      {u"Menu_View_ShowJavaScriptBar"_s, Menu_View_ShowJavaScriptBar},
                      {u"Menu_Debug_Start"_s, Menu_Debug_Start},
                      {u"Menu_Debug_HTML"_s, [] { Flip(u"Menu_Debug_HTML"_s); }},
@@ -184,26 +182,39 @@ void AddViewHandlers(Handlers& handlers) {
                      {u"Menu_Tools_Tramlink"_s, Menu_Tools_Tramlink}});
 }
 
-} // namespace
+// Commands of the main window itself.
+void AddWindowHandlers(Handlers& handlers) {
+    handlers.insert({{u"Menu_File_Exit"_s, [] { Shared<Frm_Main>().close(); }},
+                     {u"Menu_Window_MaximizeAll"_s, [] { Shared<Frm_Main>().Menu_Window_MaximizeAll(); }},
+                     {u"Menu_Window_MinimizeAll"_s, [] { Shared<Frm_Main>().Menu_Window_MinimizeAll(); }},
+                     {u"Menu_Window_SetH"_s, [] { Shared<Frm_Main>().Menu_Window_SetH(); }},
+                     {u"Menu_Window_SetV"_s, [] { Shared<Frm_Main>().Menu_Window_SetV(); }}});
+}
 
-void Frm_Main::RunCommand(const QString& name) {
+const Handlers& AllHandlers() {
     static const Handlers handlers = [] {
         Handlers all;
         AddDocumentHandlers(all);
         AddEditHandlers(all);
         AddHelpHandlers(all);
         AddViewHandlers(all);
+        AddWindowHandlers(all);
         return all;
     }();
-    if (name == u"Menu_File_Exit") return static_cast<void>(close());
-    if (name == u"Menu_Window_MaximizeAll") return Menu_Window_MaximizeAll();
-    if (name == u"Menu_Window_MinimizeAll") return Menu_Window_MinimizeAll();
-    if (name == u"Menu_Window_SetH") return Menu_Window_SetH();
-    if (name == u"Menu_Window_SetV") return Menu_Window_SetV();
-    const auto handler = handlers.constFind(name);
-    if (handler != handlers.constEnd()) {
-        (*handler)();
-    } else {
-        Neighbours::RunTool(name); // answered once its window is built
-    }
+    return handlers;
+}
+
+} // namespace
+
+bool Frm_Main::RunCommand(const QString& name) {
+    const auto handler = AllHandlers().constFind(name);
+    if (handler == AllHandlers().constEnd()) return Windows::ShowByCommand(name);
+    (*handler)();
+    return true;
+}
+
+bool Frm_Main::HasCommand(const QString& name) {
+    const auto rows = Windows::Rows();
+    return AllHandlers().contains(name) ||
+           std::ranges::find(rows, name, &Windows::Row::command) != rows.end();
 }

@@ -3,8 +3,8 @@
 
 #include "platform/files.h"
 #include "platform/text.h"
-#include "shell/commands.h"
-#include "shell/global.h"
+#include "state/commands.h"
+#include "state/global.h"
 
 #include <algorithm>
 #include <cmath>

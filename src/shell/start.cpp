@@ -4,31 +4,32 @@
 #include "documents/paths.h"
 #include "documents/recovery.h"
 #include "documents/undo.h"
-#include "editing/lists.h"
 #include "platform/clipboard.h"
 #include "platform/dialogs_qt.h"
 #include "platform/files.h"
 #include "platform/literals.h"
 #include "platform/modal.h"
 #include "platform/numbers.h"
+#include "platform/screen_place.h"
 #include "platform/text.h"
 #include "platform/twips.h"
-#include "shell/commands.h"
 #include "shell/frm_load.h"
 #include "shell/frm_main.h"
 #include "shell/frm_welcome.h"
-#include "shell/global.h"
 #include "shell/main_menu.h"
-#include "shell/settings.h"
 #include "shell/tips.h"
 #include "shell/wiring.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/lists.h"
+#include "state/settings.h"
+#include "state/windows.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QMdiArea>
-#include <QScreen>
 #include <QTimer>
 #include <QTranslator>
 
@@ -131,23 +132,6 @@ void Frm_Main::EndOnBrokenFile(const QString& fileName) {
     throw Program::StartEnded();
 }
 
-// A window from a larger or second screen comes back where it can be seen and used: whole on the screen that
-// shows most of it, on the first one where none does.
-QRect Program::FittedToScreen(QRect place, const QList<QRect>& screens) {
-    QRect screen = screens.constFirst();
-    const auto shown = [&](const QRect& one) {
-        const QRect part = one.intersected(place);
-        return part.isEmpty() ? 0 : qint64(part.width()) * part.height();
-    };
-    for (const QRect& one : screens) {
-        if (shown(one) > shown(screen)) screen = one;
-    }
-    place.setSize(place.size().expandedTo({480, 360}).boundedTo(screen.size()));
-    place.moveLeft(std::clamp(place.left(), screen.left(), screen.right() + 1 - place.width()));
-    place.moveTop(std::clamp(place.top(), screen.top(), screen.bottom() + 1 - place.height()));
-    return place;
-}
-
 void Frm_Main::RestorePlace() {
     const auto number = [](const QString& key, int preset) {
         double value = preset;
@@ -155,9 +139,7 @@ void Frm_Main::RestorePlace() {
         return Twips::ToPixels(value);
     };
     QRect place(number(u"Left"_s, 0), number(u"Top"_s, 0), number(u"Width"_s, 640), number(u"Height"_s, 480));
-    QList<QRect> screens{QGuiApplication::primaryScreen()->availableGeometry()};
-    for (const QScreen* screen : QGuiApplication::screens()) screens.append(screen->availableGeometry());
-    place = Program::FittedToScreen(place, screens);
+    place = FittedToScreen(place, {480, 360}); // where it can be seen and used
     move(place.topLeft());
     resize(place.size());
     m_wantedPlace = place;
@@ -247,7 +229,7 @@ void Frm_Main::ShowWorkScreenSkin() {
 void Frm_Main::StartWork() {
     if (!Global::StartPending) return;
     Global::StartPending = false;
-    if (Global::UpdateLogExists()) Neighbours::RunTool(u"Frm_UpdateMessage"_s);
+    if (Global::UpdateLogExists()) Windows::Show(u"Frm_UpdateMessage");
     const QString file = Program::FileArgument(Program::CommandLine());
     if (!file.isEmpty()) {
         Documents::OpenFile(file);

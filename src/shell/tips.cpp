@@ -3,7 +3,7 @@
 
 #include "platform/files.h"
 #include "platform/literals.h"
-#include "shell/global.h"
+#include "state/global.h"
 
 #include <algorithm>
 

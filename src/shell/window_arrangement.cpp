@@ -3,7 +3,7 @@
 #include "documents/frm_code.h"
 #include "platform/mdi_child.h"
 #include "shell/frm_main.h"
-#include "shell/global.h"
+#include "state/global.h"
 
 namespace {
 

@@ -13,8 +13,10 @@ struct StartEnded : std::exception {};
 
 namespace Wiring {
 
-// Wires the calls that end or show a window by its name, and those that single windows answer.
+// Wires all neighbour calls and enters all windows.
 void WireWindows();
+// Enters all windows, so that they can be shown and ended by their names.
+void InstallWindows();
 // Ends the life of every window that still exists.
 void UnloadAll();
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "assistant/answers.h"
 
-#include "editing/lists.h"
 #include "platform/literals.h"
-#include "shell/global.h"
 #include "shell/tips.h"
+#include "state/global.h"
+#include "state/lists.h"
 #include "support/program_folder.h"
 #include "support/test_registry.h"
 

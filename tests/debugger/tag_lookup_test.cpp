@@ -2,11 +2,11 @@
 // The prepared lookups against the search for text that they stand for, over the lists as they ship.
 #include "debugger/html_check.h"
 #include "debugger/tag_lists.h"
-#include "editing/lists.h"
 #include "platform/literals.h"
 #include "platform/text.h"
 #include "report_text.h"
-#include "shell/global.h"
+#include "state/global.h"
+#include "state/lists.h"
 #include "support/program_folder.h"
 #include "support/test_registry.h"
 

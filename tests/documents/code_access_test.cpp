@@ -3,10 +3,10 @@
 
 #include "documents/text_buffer.h"
 #include "documents/undo.h"
-#include "editing/lists.h"
 #include "platform/literals.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/lists.h"
+#include "state/neighbours.h"
 #include "support/program_folder.h"
 #include "support/scripted_dialogs.h"
 #include "support/test_registry.h"

@@ -5,12 +5,13 @@
 #include "documents/recovery.h"
 #include "documents/text_buffer.h"
 #include "documents/undo.h"
-#include "editing/lists.h"
 #include "platform/files.h"
 #include "platform/literals.h"
-#include "shell/commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/lists.h"
+#include "state/neighbours.h"
+#include "state/windows.h"
 #include "support/program_folder.h"
 #include "support/scripted_dialogs.h"
 #include "support/test_registry.h"
@@ -58,11 +59,11 @@ private slots:
             Global::CodeWindowOpen = Global::CodeWindowOpen || Global::HasTextDocument();
             return Global::CodeWindowOpen ? m_box.get() : nullptr;
         });
-        Neighbours::UnloadWindow.AnsweredBy([this](const QString& name) {
-            if (name != u"Frm_Code" || !Global::CodeWindowOpen) return;
-            Global::HeldSource = m_box->Text();
-            Global::CodeWindowOpen = false;
-        });
+        Windows::StandIn({{}, [this](const QString& name) {
+                              if (name != u"Frm_Code" || !Global::CodeWindowOpen) return;
+                              Global::HeldSource = m_box->Text();
+                              Global::CodeWindowOpen = false;
+                          }});
         Neighbours::SetStatusPanel.AnsweredBy(
             [this](int panel, const QString& text) { m_panels[panel] = text; });
         Neighbours::SetMainCaption.AnsweredBy([this](const QString& text) { m_caption = text; });
@@ -177,7 +178,7 @@ private slots:
         QCOMPARE(m_folder->Read(u"a.wml"_s), QByteArray("<wml>\r\n      <p/>\r\n</wml>\r\n"));
         QCOMPARE(m_box->SelStart(), 13);
         m_box->SetText(u"\tx"_s);
-        Neighbours::UnloadWindow(u"Frm_Code"_s);
+        Windows::Unload(u"Frm_Code");
         Menu_File_Save_Click();
         QCOMPARE(m_folder->Read(u"a.wml"_s), QByteArray("   x\r\n"));
     }

@@ -4,8 +4,9 @@
 #include "documents/templates.h"
 #include "documents/text_buffer.h"
 #include "platform/literals.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
+#include "state/windows.h"
 #include "support/program_folder.h"
 #include "support/scripted_dialogs.h"
 #include "support/test_registry.h"
@@ -64,7 +65,7 @@ private slots:
         QStringList gone;
         Neighbours::SetStatusPanel.AnsweredBy([&](int panel, const QString& text) { panels[panel] = text; });
         Neighbours::SetMainCaption.AnsweredBy([&](const QString& text) { shownCaption = text; });
-        Neighbours::UnloadWindow.AnsweredBy([&](const QString& name) { gone << name; });
+        Windows::StandIn({{}, [&](const QString& name) { gone << name; }});
         int shown = 0;
         Neighbours::ShowDebugger.AnsweredBy([&] { ++shown; });
         Global::AutoDebug = true;

@@ -4,9 +4,9 @@
 #include "documents/text_buffer.h"
 #include "documents/text_history.h"
 #include "platform/literals.h"
-#include "shell/commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 #include "support/program_folder.h"
 #include "support/test_registry.h"
 

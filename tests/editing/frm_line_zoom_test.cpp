@@ -5,7 +5,7 @@
 #include "documents/new_documents.h"
 #include "documents/undo.h"
 #include "platform/literals.h"
-#include "shell/global.h"
+#include "state/global.h"
 #include "support/driver.h"
 #include "support/program_folder.h"
 #include "support/scripted_dialogs.h"

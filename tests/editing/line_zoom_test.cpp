@@ -4,8 +4,8 @@
 #include "documents/text_buffer.h"
 #include "documents/undo.h"
 #include "platform/literals.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 #include "support/program_folder.h"
 #include "support/test_registry.h"
 

@@ -5,12 +5,14 @@
 #include "documents/recovery.h"
 #include "platform/files.h"
 #include "platform/literals.h"
-#include "shell/commands.h"
+#include "platform/screen_place.h"
 #include "shell/frm_main.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
 #include "shell/status_bar.h"
 #include "shell/wiring.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/neighbours.h"
+#include "state/windows.h"
 #include "support/driver.h"
 #include "support/program_folder.h"
 #include "support/scripted_dialogs.h"
@@ -66,7 +68,7 @@ private slots:
     void leavesPicturesAlone() {
         Documents::OpenFile(m_folder->Write(u"bild.gif"_s, Picture));
         Driver::Trigger(u"Menu_View_Code"_s);
-        Neighbours::RunTool(u"Frm_Code"_s);
+        Windows::Show(u"Frm_Code");
         for (const QString& button : {u"ToolBar_Cut"_s, u"ToolBar_Copy"_s})
             QVERIFY(!Driver::IsEnabled(button));
         QVERIFY(!Loaded<Frm_Code>() && !Neighbours::TheCodeBox() && !Global::DocChanged);
@@ -87,7 +89,7 @@ private slots:
             for (const QString& button : {u"ToolBar_Cut"_s, u"ToolBar_Copy"_s, u"Menu_View_Code"_s})
                 QVERIFY(!Driver::IsEnabled(button));
             Neighbours::FocusCode();
-            Neighbours::RunTool(u"Frm_Code"_s);
+            Windows::Show(u"Frm_Code");
             QVERIFY(!Loaded<Frm_Code>() && !Neighbours::TheCodeBox() && !Global::DocChanged);
         }
     }
@@ -110,7 +112,7 @@ private slots:
         Documents::OpenFile(m_folder->Write(u"a.htm"_s, "<P>x\r\n"));
         QVERIFY(Shared<Frm_Code>().IsShown()); // behind the preview
         Commands::SetChecked(u"Menu_Tools_Option_2"_s, true);
-        Neighbours::UnloadWindow(u"Frm_Code"_s);
+        Windows::Unload(u"Frm_Code");
         Driver::Trigger(u"Menu_File_Save"_s);
         QVERIFY(!Loaded<Frm_Code>());
         QCOMPARE(m_folder->Read(u"a.htm"_s), QByteArray("<p>x\r\n"));
@@ -166,7 +168,8 @@ private slots:
     }
     void fitsTheWindowToItsScreen() {
         QFETCH(QRect, saved);
-        QTEST(Program::FittedToScreen(saved, {QRect(0, 0, 1280, 800), QRect(1280, 0, 1024, 768)}), "shown");
+        QTEST(FittedToScreen(saved, {QRect(0, 0, 1280, 800), QRect(1280, 0, 1024, 768)}, {480, 360}),
+              "shown");
     }
 };
 

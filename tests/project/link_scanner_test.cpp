@@ -5,7 +5,7 @@
 #include "platform/files.h"
 #include "platform/literals.h"
 #include "project/link_list.h"
-#include "shell/global.h"
+#include "state/global.h"
 #include "support/program_folder.h"
 #include "support/scripted_dialogs.h"
 #include "support/test_registry.h"

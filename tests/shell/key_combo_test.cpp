@@ -3,9 +3,9 @@
 #include "platform/literals.h"
 #include "platform/window.h"
 #include "shell/frm_key_combo.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
-#include "shell/settings.h"
+#include "state/global.h"
+#include "state/neighbours.h"
+#include "state/settings.h"
 #include "support/driver.h"
 #include "support/program_folder.h"
 #include "support/scripted_dialogs.h"
@@ -84,6 +84,7 @@ private slots:
         Neighbours::RunAnimation.AnsweredBy([&said](int, const QString& text) { said << text; });
         Global::AssistantOpen = true;
         Shared<Frm_KeyCombo>().show();
+        QVERIFY(QTest::qWaitForWindowActive(&Shared<Frm_KeyCombo>()));
         Unload<Frm_KeyCombo>();
         Global::AssistantOpen = false;
         QCOMPARE(said.size(), 2);

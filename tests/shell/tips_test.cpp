@@ -4,9 +4,9 @@
 
 #include "platform/code_page.h"
 #include "platform/literals.h"
-#include "shell/activation.h"
-#include "shell/commands.h"
-#include "shell/global.h"
+#include "state/activation.h"
+#include "state/commands.h"
+#include "state/global.h"
 #include "support/program_folder.h"
 #include "support/test_registry.h"
 

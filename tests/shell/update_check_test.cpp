@@ -6,11 +6,12 @@
 #include "shell/frm_load.h"
 #include "shell/frm_new_update.h"
 #include "shell/frm_update_message.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
-#include "shell/settings.h"
 #include "shell/update_log.h"
 #include "shell/wiring.h"
+#include "state/global.h"
+#include "state/neighbours.h"
+#include "state/settings.h"
+#include "state/windows.h"
 #include "support/driver.h"
 #include "support/program_folder.h"
 #include "support/scripted_dialogs.h"
@@ -260,7 +261,7 @@ private slots:
             if (never) Driver::Click(u"Chk_DontShowThisInFuture"_s);
             Driver::Click(u"Cmd_Control_0"_s);
         });
-        Neighbours::RunTool(u"Frm_UpdateMessage"_s);
+        Windows::Show(u"Frm_UpdateMessage");
         QVERIFY(!Loaded<Frm_UpdateMessage>());
         QCOMPARE(Global::UpdateLogExists(), !never);
     }

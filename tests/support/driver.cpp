@@ -5,11 +5,11 @@
 #include "platform/clipboard.h"
 #include "platform/literals.h"
 #include "platform/window.h"
-#include "shell/commands.h"
 #include "shell/frm_main.h"
-#include "shell/global.h"
 #include "shell/main_menu.h"
 #include "shell/wiring.h"
+#include "state/commands.h"
+#include "state/global.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -3,9 +3,10 @@
 
 #include "platform/files.h"
 #include "platform/literals.h"
-#include "shell/commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/neighbours.h"
+#include "state/windows.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -21,6 +22,8 @@ ProgramFolder::ProgramFolder(Content content) {
 
 ProgramFolder::~ProgramFolder() {
     Neighbours::Reset();
+    Windows::Install({});
+    Windows::StandIn({});
     Commands::Watch({});
     Files::SetProgramDirectory({});
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/commands.h"
+#include "state/commands.h"
 
 // The menu tree, the tool bar and its drop-downs.
 namespace Commands {

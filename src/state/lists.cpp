@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "editing/lists.h"
+#include "state/lists.h"
 
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/text.h"
-#include "shell/global.h"
+#include "state/global.h"
 
 namespace Lists {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "shell/settings.h"
+#include "state/settings.h"
 
 #include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
-#include "shell/commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <initializer_list>
 #include <optional>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/global.h"
+#include "state/global.h"
 
 #include "platform/events.h"
 #include "platform/files.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The command table and which commands are open in which state.
-#include "shell/activation.h"
+#include "state/activation.h"
 
 #include "platform/literals.h"
-#include "shell/commands.h"
+#include "state/commands.h"
 #include "support/test_registry.h"
 
 #include <QSet>

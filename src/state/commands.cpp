@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/commands.h"
+#include "state/commands.h"
 
 #include "platform/literals.h"
 

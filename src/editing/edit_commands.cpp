@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/edit_commands.h"
+#include "editing/edit_commands.h"
 
 #include "documents/code_access.h"
 #include "documents/code_box.h"
@@ -10,8 +10,8 @@
 #include "platform/dialogs.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 
 #include <QDateTime>
 #include <QLocale>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "shell/activation.h"
+#include "state/activation.h"
 
 #include "platform/literals.h"
-#include "shell/commands.h"
+#include "state/commands.h"
 
 namespace Activation {
 

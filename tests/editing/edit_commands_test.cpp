@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "shell/edit_commands.h"
+#include "editing/edit_commands.h"
 
 #include "documents/text_buffer.h"
 #include "documents/undo.h"
-#include "editing/lists.h"
 #include "platform/clipboard.h"
 #include "platform/literals.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/global.h"
+#include "state/lists.h"
+#include "state/neighbours.h"
 #include "support/program_folder.h"
 #include "support/scripted_dialogs.h"
 #include "support/test_registry.h"

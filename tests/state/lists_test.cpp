@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "editing/lists.h"
+#include "state/lists.h"
 
 #include "platform/files.h"
 #include "platform/literals.h"
 #include "platform/text.h"
-#include "shell/global.h"
+#include "state/global.h"
 #include "support/program_folder.h"
 #include "support/test_registry.h"
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "shell/settings.h"
+#include "state/settings.h"
 
 #include "platform/files.h"
 #include "platform/literals.h"
-#include "shell/commands.h"
-#include "shell/global.h"
-#include "shell/neighbours.h"
+#include "state/commands.h"
+#include "state/global.h"
+#include "state/neighbours.h"
 #include "support/program_folder.h"
 #include "support/test_registry.h"
 

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "documents/insertion_point.h"
+
+#include "documents/code_box.h"
+#include "documents/undo.h"
+#include "state/global.h"
+#include "state/neighbours.h"
+
+namespace InsertionPoint {
+
+namespace {
+
+CodeBox* Box() { return Global::CodeWindowOpen ? Neighbours::TheCodeBox() : nullptr; }
+
+} // namespace
+
+bool Wrap(const QString& before, const QString& after) {
+    CodeBox* box = Box();
+    if (!box) return false;
+    Undo::PushUndo();
+    box->SetSelText(before + box->SelText() + after);
+    return true;
+}
+
+bool Insert(const QString& text) {
+    CodeBox* box = Box();
+    if (!box) return false;
+    Undo::PushUndo();
+    box->SetSelText(text);
+    return true;
+}
+
+} // namespace InsertionPoint

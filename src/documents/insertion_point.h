@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+// Where the tools write: at the caret of the code box, each time as one undo step.
+#pragma once
+
+#include <QString>
+
+namespace InsertionPoint {
+
+// Puts `before` in front of the selection and `after` behind it; the caret stands behind both. Returns
+// whether there is a document window to write into.
+bool Wrap(const QString& before, const QString& after);
+// Writes `text` in place of the selection. Returns as Wrap() does.
+bool Insert(const QString& text);
+
+} // namespace InsertionPoint

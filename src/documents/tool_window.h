@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/window.h"
+#include "state/tool_place.h"
+
+// What makes one tool window differ from another.
+struct ToolKind {
+    QString name; // of the window: "Frm_TagTools"
+    QString caption;
+    QString line; // what the assistant says while it is open
+    bool* open;   // its shared flag
+    Global::ToolPos* place;
+    ToolPlace::Keeps keeps = ToolPlace::Keeps::Place;
+    QSize preset = {}; // twips, outer; the size where none is kept
+};
+
+// A small window that stays open beside the document and writes into it. It does not take the keys from the
+// code when it comes, gives the focus back behind each insertion, and comes back where it stood.
+class ToolWindow : public QWidget, public SharedWindow {
+    Q_OBJECT
+
+public:
+    explicit ToolWindow(ToolKind kind);
+    void OnLoad() override;
+    void OnUnload() override;
+    // Shows the window; the keys stay where they are.
+    void Present();
+
+protected:
+    // Each writes into the document as one undo step and gives the focus back to the code. Without a document
+    // window nothing happens.
+    void Wrap(const QString& before, const QString& after); // around the selection
+    void Insert(const QString& text);                       // in place of the selection
+
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    const ToolKind m_kind;
+};

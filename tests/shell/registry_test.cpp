@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+// Nothing that the program speaks of by a name is answered by silence.
+#include "platform/literals.h"
+#include "shell/frm_main.h"
+#include "shell/wiring.h"
+#include "state/commands.h"
+#include "state/neighbours.h"
+#include "state/windows.h"
+#include "support/driver.h"
+#include "support/program_folder.h"
+#include "support/scripted_dialogs.h"
+#include "support/test_registry.h"
+
+#include <QDirIterator>
+#include <QRegularExpression>
+
+class Registry : public QObject {
+    Q_OBJECT
+
+private slots:
+    void knowsEveryWindowThatIsNamed() {
+        const ProgramFolder folder(ProgramFolder::Content::Empty);
+        Wiring::InstallWindows();
+        QSet<QString> rows;
+        for (const Windows::Row& row : Windows::Rows()) {
+            QVERIFY2(!rows.contains(row.name.toString()), qPrintable(row.name.toString()));
+            rows.insert(row.name.toString());
+            QVERIFY2(row.command.isEmpty() || Commands::StateOf(row.command.toString()).visible,
+                     qPrintable(row.command.toString()));
+        }
+        static const QRegularExpression name(u"u\"(Frm_[A-Za-z]+|WAPBrowser)\""_s);
+        int seen = 0;
+        QDirIterator sources(SourceFile(u"src"_s), {u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (sources.hasNext()) {
+            QFile file(sources.next());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QString text = QString::fromUtf8(file.readAll());
+            for (const auto& hit : name.globalMatch(text)) {
+                if (hit.captured(1) == u"Frm_Main") continue; // shown by the start alone
+                QVERIFY2(rows.contains(hit.captured(1)),
+                         qPrintable(file.fileName() + u' ' + hit.captured(1)));
+                ++seen;
+            }
+        }
+        QVERIFY(seen > rows.size());
+    }
+
+    void answersEveryCommandAndCall() {
+        const ProgramFolder folder;
+        ScriptedDialogs dialogs;
+        const Driver::RunningProgram program;
+        const QStringList toCome{
+            u"Menu_File_Print"_s,           u"Menu_File_ProjectBackUp"_s,  u"Menu_File_UploadAssistant"_s,
+            u"Menu_Edit_Search"_s,          u"Menu_View_SyntaxPreView"_s,  u"Menu_View_ColorKCC"_s,
+            u"Menu_View_ColorStandard"_s,   u"Menu_View_TagTools"_s,       u"Menu_View_Character"_s,
+            u"Menu_View_Events"_s,          u"Menu_View_FormatSubClass"_s, u"Menu_Insert_StyleTag"_s,
+            u"Menu_Insert_Style"_s,         u"Menu_Insert_StyleDefault"_s, u"Menu_Insert_Table_Insert"_s,
+            u"Menu_Insert_Table_Open"_s,    u"Menu_Insert_Script"_s,       u"Menu_Insert_List"_s,
+            u"Menu_Insert_MetaTags"_s,      u"Menu_Insert_Frames"_s,       u"Menu_Insert_PageArtBox"_s,
+            u"Menu_Project_Jump"_s,         u"Menu_Project_Set"_s,         u"Menu_Tools_Uml"_s,
+            u"Menu_Tools_DeleteComment"_s,  u"Menu_Tools_MadCode"_s,       u"Menu_Tools_SpellingCheck"_s,
+            u"Menu_Tools_SpeedCheck"_s,     u"Menu_Tools_Connection"_s,    u"x_Menu_Tools_Debug"_s,
+            u"Menu_Menu_Code_Attribute_0"_s};
+        for (const Commands::MenuRow& row : Commands::MenuTree()) {
+            if (row.flags & (Commands::Submenu | Commands::Separator)) continue;
+            const QString name = row.name.toString();
+            QVERIFY2(Frm_Main::HasCommand(name) != toCome.contains(name), qPrintable(name));
+        }
+        QCOMPARE(Neighbours::Unanswered(), (QStringList{u"UpdateClassList"_s, u"GenerateWAPPreview"_s}));
+    }
+};
+
+REGISTER_TEST(Registry);
+#include "registry_test.moc"
