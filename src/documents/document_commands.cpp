@@ -92,7 +92,8 @@ void RefreshWindows() {
     }
 }
 
-bool OpenText(const QString& path, bool preview) {
+// `preview` comes back as whether the page is shown in the preview, which only a page can be.
+bool OpenText(const QString& path, bool& preview) {
     auto document = DocumentFile::Load(path);
     CodeBox* box = document ? Neighbours::TheCodeBox() : nullptr;
     if (!box) return false;
@@ -100,7 +101,8 @@ bool OpenText(const QString& path, bool preview) {
     box->SetText(document->text);
     SetFormat(document->format);
     Neighbours::ActivateToolBar();
-    if (preview && Text::UpperCase(Global::CurrentExtension).startsWith(u"HTM")) {
+    preview = preview && Text::UpperCase(Global::CurrentExtension).startsWith(u"HTM");
+    if (preview) {
         Neighbours::Browse(path);
     } else {
         Neighbours::FocusCode();
