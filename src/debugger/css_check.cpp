@@ -10,8 +10,6 @@ namespace Debugger {
 
 namespace {
 
-const QString IndentedFaultText = QStringLiteral("     Der Code verursacht einen unbekannten Fehler.");
-
 // The last `needle` at or before a position that never decreases from call to call.
 class LastFinder {
 public:

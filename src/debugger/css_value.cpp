@@ -4,6 +4,8 @@
 #include "platform/text.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 
 namespace Debugger {
 
@@ -32,6 +34,17 @@ bool IsBareNumber(QStringView value) {
     return read != 0 && value.size() == QString::number(read, 'g', Digits).size();
 }
 
+// The counter of warnings ends at the largest 16-bit number, and that is meant: a warning beyond it has its
+// row, but instead of being counted it is reported as a fault of the check. Errors have no such end.
+void CountWarning(Report& report) {
+    constexpr qsizetype MostWarnings = std::numeric_limits<std::int16_t>::max();
+    if (report.counts.cssWarnings < MostWarnings) {
+        ++report.counts.cssWarnings;
+    } else {
+        report.Add(ReportIcon::Error, IndentedFaultText);
+    }
+}
+
 } // namespace
 
 void CSSValue::Set(QStringView value) {
@@ -54,11 +67,11 @@ void CSSValue::Set(QStringView value) {
 
 void CSSValue::Report(Debugger::Report& report, qsizetype position) const {
     if (!m_unitMissing.isEmpty()) {
-        ++report.counts.cssWarnings;
+        CountWarning(report);
         report.Add(ReportIcon::Alert, m_unitMissing, m_marker, position);
     }
     if (!m_blankInFront.isEmpty()) {
-        ++report.counts.cssWarnings;
+        CountWarning(report);
         report.Add(ReportIcon::Alert, m_blankInFront, m_marker, position);
     }
     if (m_isMissing) {

@@ -28,9 +28,9 @@ constexpr int CodeRoom = 1500; // what the code keeps of the main window's heigh
 
 const QColor TagColor(50, 50, 100);
 
-// The code and the preview take the room that the strip leaves.
+// The others take the room that the strip leaves; so does the project window when it stands alone.
 void GiveRoom() {
-    if (Global::ProjectWindowOpen && (Global::CodeWindowOpen || Global::BrowserOpen)) {
+    if (Global::ProjectWindowOpen) {
         Neighbours::LayoutProjectManager(); // which lays out the others
         return;
     }

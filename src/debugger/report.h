@@ -11,6 +11,7 @@ namespace Debugger {
 
 // The text of the row for a statement of a check that could not be carried out; a check of styles indents it.
 inline const QString UnknownFaultText = QStringLiteral("Der Code verursacht einen unbekannten Fehler.");
+inline const QString IndentedFaultText = QStringLiteral("     Der Code verursacht einen unbekannten Fehler.");
 
 struct Counts {
     qsizetype unknownTags = 0;

@@ -95,7 +95,8 @@ void RefreshWindows() {
     }
 }
 
-bool OpenText(const QString& path, bool preview) {
+// `preview` comes back as whether the page is shown in the preview, which only a page can be.
+bool OpenText(const QString& path, bool& preview) {
     auto document = DocumentFile::Load(path);
     if (!document) return false;
     ForgetText();
@@ -105,7 +106,8 @@ bool OpenText(const QString& path, bool preview) {
     box->BeginDocument(document->text);
     SetFormat(document->format);
     Neighbours::ActivateToolBar();
-    if (preview && Text::UpperCase(Global::CurrentExtension).startsWith(u"HTM")) {
+    preview = preview && Text::UpperCase(Global::CurrentExtension).startsWith(u"HTM");
+    if (preview) {
         Neighbours::ShowCodeWindow(); // behind the preview, where its user finds it
         Neighbours::Browse(path);
     } else {

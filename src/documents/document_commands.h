@@ -26,7 +26,8 @@ enum class SaveFirst { MustSucceed, MayFail };
 // where it may fail, a recovery copy must have been written instead.
 bool AskToSave(const QString& title, SaveFirst save);
 
-// Loads a file. `preview` asks for the browser view; it becomes false where the settings do not want it.
+// Loads a file. `preview` asks for the browser view and comes back as whether the page is shown in it: not
+// where the settings do not want it, nor for a file that is no page.
 void OpenFile(const QString& path, bool& preview);
 void OpenFile(const QString& path); // with the wish for the preview
 // A file dropped on the main window.

@@ -39,23 +39,25 @@ QString CutBefore(const QString& text, const QString& delimiter) {
     return at < 0 ? text : text.first(at);
 }
 
-QString ResolveLink(const QString& relative, const QString& base) {
+std::optional<QString> PathOfLink(const QString& relative, const QString& base) {
     QString path = relative;
     QString folder = base;
     while (path.startsWith(u"../")) {
         const qsizetype end = folder.lastIndexOf(u'\\');
         const qsizetype parent = end > 0 ? folder.lastIndexOf(u'\\', end - 1) : -1;
-        if (parent < 0) {
-            Events::Sleep(
-                1); // nothing can change any more; the second until the message is part of the routine
-            Dialogs::Tell(u"Fehler"_s, u"Beim Konvertieren eines Pfades ist ein Fehler aufgetreten."_s,
-                          Dialogs::Icon::Critical);
-            return {};
-        }
+        if (parent < 0) return std::nullopt;
         folder.truncate(parent + 1);
         path.remove(0, 3);
     }
     return QString(folder + path).replace(u'/', u'\\');
+}
+
+QString ResolveLink(const QString& relative, const QString& base) {
+    if (const auto path = PathOfLink(relative, base)) return *path;
+    Events::Sleep(1); // nothing can change any more; the second until the message is part of the routine
+    Dialogs::Tell(u"Fehler"_s, u"Beim Konvertieren eines Pfades ist ein Fehler aufgetreten."_s,
+                  Dialogs::Icon::Critical);
+    return {};
 }
 
 QString RelativePathOf(const QString& target, const QString& base) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 namespace Global {
 
@@ -25,6 +26,8 @@ QString CutBefore(const QString& text, const QString& delimiter);
 // "\"). A path that climbs above the root waits out one second, tells it in a message and gives an empty
 // text.
 QString ResolveLink(const QString& relative, const QString& base);
+// The same without a word: nothing for a path that climbs above the root.
+std::optional<QString> PathOfLink(const QString& relative, const QString& base);
 // The path of `target` as seen from the file `base`, with "/" between its parts. What follows the steps
 // upwards is cut at 255 characters. A base folder without "\" at its end keeps its own name in the result.
 QString RelativePathOf(const QString& target, const QString& base);

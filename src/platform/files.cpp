@@ -123,6 +123,8 @@ bool IsFullPath(const QString& path) {
 
 QString MakeFull(const QString& path) { return FromSystem(QFileInfo(ToSystem(path)).absoluteFilePath()); }
 
+QString Canonical(const QString& path) { return FromSystem(QFileInfo(ToSystem(path)).canonicalFilePath()); }
+
 std::optional<QByteArray> Read(const QString& path, ReadError* error) {
     const auto fail = [error](ReadError why) {
         if (error) *error = why;

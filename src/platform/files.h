@@ -19,6 +19,8 @@ QString FromSystem(const QString& path);
 bool IsFullPath(const QString& path);
 // `path` made full, counted from the current directory.
 QString MakeFull(const QString& path);
+// The place on disk that `path` ends at, links and ".." steps followed; empty where there is nothing.
+QString Canonical(const QString& path);
 
 enum class ReadError { None, FileNotFound, PathNotFound, Other };
 // The bytes of a file. On failure nothing, and `error` (if given) says why: the file is missing in an

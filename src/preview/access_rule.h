@@ -19,8 +19,10 @@ public:
     bool AllowsPage(const QUrl& url, const QUrl& from);
     // What a page asks for: read by its script, shown in a frame, or anything else that it is made of.
     enum class Part { Data, Frame, Other };
-    // Whether the page `page` may load `url` as one of its parts. No script may read a local file: it gets no
-    // data, and frames, which a local page can look into, hold nothing but pages and pictures.
+    // Whether the page `page` may load `url` as one of its parts. A script can look into the frames of a
+    // local page. So it gets no data, and a frame holds nothing but pages and pictures, and as long as the
+    // network is closed, texts, PDF files and files without extension of the page's own folder and those in
+    // it.
     bool AllowsPart(const QUrl& url, Part part, const QUrl& page) const;
     // Whether a main page that AllowsPage() has seen may be fetched.
     bool AllowsFetch(const QUrl& url) const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "preview/frm_browser.h"
 
+#include "platform/events.h"
 #include "platform/icons.h"
 #include "platform/literals.h"
 #include "preview/browser_address.h"
@@ -20,7 +21,7 @@
 namespace {
 
 const QString Caption = QStringLiteral("HTML Vorschau");
-constexpr qint64 StuckAfter = 2000; // milliseconds
+constexpr double StuckAfter = 2; // seconds
 
 } // namespace
 
@@ -28,7 +29,10 @@ Frm_Browser::Frm_Browser() : Browser(new PreviewView(this)), m_layers(new QStack
     setObjectName(u"Frm_Browser"_s);
     setFocusProxy(Browser);
     PreviewPage::Prepare(&m_profile);
-    m_profile.setUrlRequestInterceptor(new RequestGuard(&m_rule, this));
+    auto* guard = new RequestGuard(&m_rule, this);
+    connect(guard, &RequestGuard::Refused, this,
+            [this](const QUrl& url, AccessRule::Part part) { m_page->TellRefused(url, part); });
+    m_profile.setUrlRequestInterceptor(guard);
     connect(&m_profile, &QWebEngineProfile::downloadRequested, this,
             [this](QWebEngineDownloadRequest* download) { m_page->AskForDownload(download); });
     MakePage();
@@ -83,14 +87,14 @@ void Frm_Browser::MakePage() {
     m_page = new PreviewPage(&m_profile, &m_rule, Browser);
     Browser->setPage(m_page);
     delete before;
-    m_loading.invalidate();
+    m_loadingSince.reset();
     connect(m_page, &QWebEnginePage::titleChanged, this, [this](const QString& title) {
         SetCaption(Caption + u" - "_s + title);
         emit TitleChange(title);
     });
     connect(m_page, &QWebEnginePage::loadStarted, this, [this] {
         m_layers->setCurrentWidget(Browser);
-        m_loading.start();
+        m_loadingSince = Events::SecondsSinceMidnight();
         if (IsActiveChild()) TakeFocus();
         m_restStatus = u"Die Seite wird geladen..."_s;
         emit StatusTextChange(m_restStatus);
@@ -106,17 +110,18 @@ void Frm_Browser::MakePage() {
     connect(m_page, &QWebEnginePage::renderProcessTerminated, this,
             [this](QWebEnginePage::RenderProcessTerminationStatus status) {
                 if (status == QWebEnginePage::NormalTerminationStatus) return;
-                m_loading.invalidate();
+                m_loadingSince.reset();
                 m_layers->setCurrentWidget(m_crashNotice);
                 if (IsActiveChild() && isActiveWindow()) m_crashNotice->setFocus();
             });
 }
 
 void Frm_Browser::LoadFinished(bool ok) {
-    m_loading.invalidate();
+    m_loadingSince.reset();
     // a fault that the page's script told of stays to be read
     if (!m_restStatus.startsWith(u"Skriptfehler")) {
         m_restStatus = ok ? u"Fertig"_s : u"Die Seite konnte nicht geladen werden."_s;
+        if (const QString refused = m_page->RefusedText(); ok && !refused.isEmpty()) m_restStatus = refused;
     }
     emit StatusTextChange(m_restStatus);
     emit DocumentComplete(Address());
@@ -126,7 +131,9 @@ void Frm_Browser::LoadFinished(bool ok) {
 
 // A script without end holds its page's process, and with it every page that would follow.
 void Frm_Browser::ReplaceStuckPage() {
-    if (m_loading.isValid() && m_loading.hasExpired(StuckAfter)) MakePage();
+    if (!m_loadingSince) return;
+    const double passed = Events::SecondsSinceMidnight() - *m_loadingSince;
+    if (passed >= StuckAfter || passed < 0) MakePage(); // midnight turns the clock back
 }
 
 void Frm_Browser::Navigate(const QString& url) {

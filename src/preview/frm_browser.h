@@ -4,9 +4,9 @@
 #include "platform/mdi_child.h"
 #include "preview/access_rule.h"
 
-#include <QElapsedTimer>
 #include <QWebEngineProfile>
 #include <cstdint>
+#include <optional>
 
 class PreviewPage;
 class PreviewView;
@@ -70,8 +70,8 @@ private:
     PreviewPage* m_page = nullptr;
     QStackedLayout* m_layers;
     QWidget* m_crashNotice;
-    QString m_restStatus;    // shown while the mouse is over no link
-    QElapsedTimer m_loading; // running while a page is being loaded
+    QString m_restStatus;                 // shown while the mouse is over no link
+    std::optional<double> m_loadingSince; // while a page is being loaded, in seconds since midnight
 
     int BrowserSavedLeft = 0;
     int BrowserSavedTop = 0;

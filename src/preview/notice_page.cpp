@@ -10,7 +10,8 @@ namespace {
 
 const QString Prefix = QStringLiteral("text/html;charset=utf-8;refused=");
 
-QString Html(const QUrl& address, const QString& background, const QString& text) {
+// A page in the given colours. `body` is markup.
+QByteArray Html(const QString& background, const QString& text, const QString& body) {
     const QString html = uR"(<!DOCTYPE html>
 <html lang="de"><head><title>Nicht geladen</title><style>
 body{background:%1;color:%2;font:15px/1.5 system-ui,sans-serif;max-width:34em;margin:0 auto;padding:2.5em 1.5em}
@@ -18,23 +19,39 @@ h1{font-size:1.4em;font-weight:600}
 .address{font-weight:600;overflow-wrap:anywhere}
 a{color:inherit}
 </style></head><body>
-<h1>Diese Adresse liegt im Internet</h1>
-<p>Die Vorschau zeigt nur Dateien auf Ihrem Rechner. Deshalb wurde diese Adresse nicht geladen:</p>
-<p class="address">%3</p>
-<p><a id="open" href="%4">In Ihrem Browser öffnen</a></p>
-<p>Möchten Sie die Seite hier sehen, öffnen Sie im Menü „Ansicht“ die Navigationsleiste und geben Sie die
-Adresse dort ein.</p>
+%3
 </body></html>)"_s;
-    return html.arg(background, text, BrowserAddress::Shown(address).toHtmlEscaped(),
-                    BrowserAddress::ForSystem(address).toHtmlEscaped());
+    return html.arg(background, text, body).toUtf8().toBase64();
 }
+
+QString Named(const QUrl& address) {
+    return u"<p class=\"address\">%1</p>"_s.arg(BrowserAddress::Shown(address).toHtmlEscaped());
+}
+
+const QString NetworkTitle = QStringLiteral("<h1>Diese Adresse liegt im Internet</h1>");
+const QString NetworkText = QStringLiteral(
+    "<p>Die Vorschau zeigt nur Dateien auf Ihrem Rechner. Deshalb wurde diese Adresse nicht geladen:</p>");
 
 } // namespace
 
 QUrl Refused(const QUrl& address, const QString& background, const QString& text) {
     const QByteArray name = address.toEncoded().toBase64(QByteArray::Base64UrlEncoding);
-    const QByteArray page = Html(address, background, text).toUtf8().toBase64();
+    const QString open = uR"(<p><a id="open" href="%1">In Ihrem Browser öffnen</a></p>
+<p>Möchten Sie die Seite hier sehen, öffnen Sie im Menü „Ansicht“ die Navigationsleiste und geben Sie die
+Adresse dort ein.</p>)"_s.arg(BrowserAddress::ForSystem(address).toHtmlEscaped());
+    const QByteArray page = Html(background, text, NetworkTitle + NetworkText + Named(address) + open);
     return QUrl(u"data:"_s + Prefix + QString::fromLatin1(name) + u";base64,"_s + QString::fromLatin1(page));
+}
+
+QUrl RefusedFrame(const QUrl& address, const QString& background, const QString& text) {
+    const QString fileTitle = u"<h1>Diese Datei wird hier nicht gezeigt</h1>"_s;
+    const QString fileText =
+        u"<p>In einem Rahmen zeigt die Vorschau Seiten und Bilder sowie Texte und PDF-Dateien, die im Ordner "
+        "der Seite oder darunter liegen. Deshalb wurde diese Datei nicht geladen:</p>"_s;
+    const QString body =
+        BrowserAddress::IsNetwork(address) ? NetworkTitle + NetworkText : fileTitle + fileText;
+    const QByteArray page = Html(background, text, body + Named(address));
+    return QUrl(u"data:text/html;charset=utf-8;base64,"_s + QString::fromLatin1(page));
 }
 
 QUrl RefusedAddress(const QUrl& url) {

@@ -17,6 +17,7 @@
 #include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 #include <QWidget>
+#include <utility>
 
 RequestGuard::RequestGuard(const AccessRule* rule, QObject* parent)
     : QWebEngineUrlRequestInterceptor(parent), m_rule(rule) {}
@@ -40,11 +41,15 @@ AccessRule::Part PartOf(QWebEngineUrlRequestInfo::ResourceType type) {
 } // namespace
 
 void RequestGuard::interceptRequest(QWebEngineUrlRequestInfo& info) {
-    const bool allowed =
-        info.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame
-            ? m_rule->AllowsFetch(info.requestUrl())
-            : m_rule->AllowsPart(info.requestUrl(), PartOf(info.resourceType()), info.firstPartyUrl());
-    if (!allowed) info.block(true);
+    const QUrl url = info.requestUrl();
+    if (info.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame) {
+        if (!m_rule->AllowsFetch(url)) info.block(true);
+        return;
+    }
+    const AccessRule::Part part = PartOf(info.resourceType());
+    if (m_rule->AllowsPart(url, part, info.firstPartyUrl())) return;
+    info.block(true);
+    emit Refused(url, part);
 }
 
 void PreviewPage::Prepare(QWebEngineProfile* profile) {
@@ -68,8 +73,15 @@ void PreviewPage::Prepare(QWebEngineProfile* profile) {
 
 PreviewPage::PreviewPage(QWebEngineProfile* profile, AccessRule* rule, QObject* parent)
     : QWebEnginePage(profile, parent), m_rule(rule) {
-    connect(this, &QWebEnginePage::loadStarted, this, [this] { m_messages.Forget(); });
-    connect(this, &QWebEnginePage::loadFinished, this, [this] { m_goingTo = url(); });
+    connect(this, &QWebEnginePage::loadStarted, this, [this] {
+        m_messages.Forget();
+        m_refused.clear();
+        m_refusedFrames.clear();
+    });
+    connect(this, &QWebEnginePage::loadFinished, this, [this] {
+        m_goingTo = url();
+        ShowRefusedFrames();
+    });
     connect(this, &QWebEnginePage::newWindowRequested, this, &PreviewPage::NewWindowRequested);
     connect(this, &QWebEnginePage::featurePermissionRequested, this,
             [this](const QUrl& origin, Feature feature) {
@@ -91,7 +103,12 @@ bool PreviewPage::acceptNavigationRequest(const QUrl& url, NavigationType type, 
         if (type == NavigationTypeLinkClicked) AskToOpenOutside(url);
         return false;
     }
-    return !isMainFrame || AcceptMainPage(url, type);
+    if (isMainFrame) return AcceptMainPage(url, type);
+    // The engine itself keeps a local page's frames from the network, before the guard is asked.
+    const bool refused =
+        BrowserAddress::IsNetwork(url) && !m_rule->AllowsPart(url, AccessRule::Part::Frame, m_goingTo);
+    if (refused) TellRefused(url, AccessRule::Part::Frame);
+    return !refused;
 }
 
 bool PreviewPage::AcceptMainPage(const QUrl& url, NavigationType type) {
@@ -119,6 +136,37 @@ void PreviewPage::ShowRefused(const QUrl& url) {
     const QUrl notice =
         NoticePage::Refused(url, palette.color(QPalette::Base).name(), palette.color(QPalette::Text).name());
     QTimer::singleShot(0, this, [this, notice] { load(notice); });
+}
+
+// --- what the page does not get -------------------------------------------------------------------
+
+void PreviewPage::TellRefused(const QUrl& url, AccessRule::Part part) {
+    if (!m_refused.contains(url)) m_refused.append(url);
+    if (part == AccessRule::Part::Frame && !m_refusedFrames.contains(url)) m_refusedFrames.append(url);
+    if (isLoading()) return;
+    emit StatusText(RefusedText());
+    QTimer::singleShot(0, this, &PreviewPage::ShowRefusedFrames);
+}
+
+QString PreviewPage::RefusedText() const {
+    if (m_refused.isEmpty()) return {};
+    const QString first = u"Nicht geladen: "_s + BrowserAddress::Shown(m_refused.constFirst());
+    return m_refused.size() == 1 ? first : first + u" und %1 weitere"_s.arg(m_refused.size() - 1);
+}
+
+// A frame that stays empty would look like a fault of the page. The notice takes the place of what the frame
+// shows and changes nothing of the page itself.
+void PreviewPage::ShowRefusedFrames() {
+    const QPalette palette = QApplication::palette();
+    for (const QUrl& url : std::exchange(m_refusedFrames, {})) {
+        const QUrl notice = NoticePage::RefusedFrame(url, palette.color(QPalette::Base).name(),
+                                                     palette.color(QPalette::Text).name());
+        const QString script = u"for (const frame of document.querySelectorAll('iframe, frame')) {"
+                               "if (frame.src === '%1') frame.contentWindow.location.replace('%2'); }"_s;
+        runJavaScript(script.arg(QString::fromLatin1(url.toEncoded()).replace(u'\'', u"\\'"_s),
+                                 QString::fromLatin1(notice.toEncoded())),
+                      QWebEngineScript::ApplicationWorld);
+    }
 }
 
 // --- what is handed on ----------------------------------------------------------------------------

@@ -4,6 +4,7 @@
 #include "preview/access_rule.h"
 #include "preview/page_messages.h"
 
+#include <QList>
 #include <QWebEnginePage>
 #include <QWebEngineUrlRequestInterceptor>
 
@@ -17,6 +18,10 @@ class RequestGuard : public QWebEngineUrlRequestInterceptor {
 public:
     explicit RequestGuard(const AccessRule* rule, QObject* parent = nullptr);
     void interceptRequest(QWebEngineUrlRequestInfo& info) override;
+
+signals:
+    // A part of the page has been refused.
+    void Refused(const QUrl& url, AccessRule::Part part);
 
 private:
     const AccessRule* m_rule;
@@ -34,6 +39,10 @@ public:
     static void Prepare(QWebEngineProfile* profile);
     // The address that the user sees for what is loaded.
     QUrl ShownAddress() const;
+    // Remembers a part that the page does not get, and tells of it as soon as the page stands.
+    void TellRefused(const QUrl& url, AccessRule::Part part);
+    // What of the page was refused, in a few words; empty when nothing was.
+    QString RefusedText() const;
     // Asks whether a download is to be made by the user's browser, and cancels it here.
     void AskForDownload(QWebEngineDownloadRequest* download);
 
@@ -53,6 +62,7 @@ protected:
 private:
     bool AcceptMainPage(const QUrl& url, NavigationType type);
     void ShowRefused(const QUrl& url);
+    void ShowRefusedFrames();
     void NewWindowRequested(QWebEngineNewWindowRequest& request);
     // Asks the user, as soon as the view has returned to the event loop, and opens the address in his
     // browser.
@@ -61,6 +71,8 @@ private:
 
     AccessRule* m_rule;
     PageMessages m_messages;
-    QUrl m_goingTo; // last address that the main page was let go to
+    QList<QUrl> m_refused;       // parts of the page, each once
+    QList<QUrl> m_refusedFrames; // those of them that no notice stands for yet
+    QUrl m_goingTo;              // last address that the main page was let go to
     bool m_asking = false;
 };

@@ -5,10 +5,22 @@
 #include "platform/literals.h"
 
 #include <QContextMenuEvent>
+#include <QDragEnterEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QWebEngineContextMenuRequest>
 
 PreviewView::PreviewView(QWidget* parent) : QWebEngineView(parent) { setObjectName(u"Browser"_s); }
+
+// What a page lets its reader drag about in it goes on to the page. A file from outside is not for the page:
+// the event passes on to the main window, which opens the file in the editor.
+void PreviewView::dragEnterEvent(QDragEnterEvent* event) {
+    if (!event->source() && event->mimeData()->hasUrls()) {
+        event->ignore();
+    } else {
+        QWebEngineView::dragEnterEvent(event);
+    }
+}
 
 void PreviewView::contextMenuEvent(QContextMenuEvent* event) {
     const QWebEngineContextMenuRequest* request = lastContextMenuRequest();

@@ -3,7 +3,8 @@
 
 #include <QWebEngineView>
 
-// The view of the preview, with a German context menu of the few commands that make sense in it.
+// The view of the preview, with a German context menu of the few commands that make sense in it. Files that
+// are dropped on it are left to the main window.
 class PreviewView : public QWebEngineView {
     Q_OBJECT
 
@@ -12,4 +13,5 @@ public:
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
 };

@@ -24,9 +24,17 @@ namespace {
 
 const QString Caption = QStringLiteral("ProjektManager");
 
-// A scan goes through thousands of links a second; events and rows wait this long at most, in milliseconds.
-constexpr qint64 EventsEvery = 10;
-constexpr qint64 RowsEvery = 100;
+const QString ScanCaption = QStringLiteral("ProjektManager wird aktualisiert...");
+
+// A scan goes through thousands of links a second; events and rows wait this long at most, in seconds.
+constexpr double EventsEvery = 0.01;
+constexpr double RowsEvery = 0.1;
+
+// Midnight turns the clock back, and what waits is due then.
+bool IsDue(double since, double interval) {
+    const double passed = Events::SecondsSinceMidnight() - since;
+    return passed >= interval || passed < 0;
+}
 
 } // namespace
 
@@ -100,12 +108,12 @@ void Frm_ProjectManager::SearchLinks() {
         if (!ScanFinished) FinishScan();
         return;
     }
-    SetCaption(u"ProjektManager wird aktualisiert..."_s);
     ScanFinished = false;
+    SetCaption(ScanCaption);
+    ShowScanCaption();
     ClearSelection();
     ActivateButtons();
-    m_sinceEvents.start();
-    m_sinceRows.start();
+    m_eventsRun = m_rowsShown = Events::SecondsSinceMidnight();
 
     const QPointer<Frm_ProjectManager> self(this);
     // The end of the program hides the window and waits for the scan.
@@ -134,14 +142,14 @@ void Frm_ProjectManager::AddFoundRow(const LinkRow& row) { m_found.push_back(Fil
 void Frm_ProjectManager::ShowFoundRows() { m_files->Add(std::exchange(m_found, {})); }
 
 void Frm_ProjectManager::LetEventsRun() {
-    if (!m_sinceEvents.hasExpired(EventsEvery)) return;
-    if (m_sinceRows.hasExpired(RowsEvery)) {
+    if (!IsDue(m_eventsRun, EventsEvery)) return;
+    if (IsDue(m_rowsShown, RowsEvery)) {
         ShowFoundRows();
-        m_sinceRows.start();
+        m_rowsShown = Events::SecondsSinceMidnight();
     }
     const QPointer<Frm_ProjectManager> self(this);
     Events::DoEvents();
-    if (self) m_sinceEvents.start();
+    if (self) m_eventsRun = Events::SecondsSinceMidnight();
 }
 
 // --- the files added by hand
@@ -159,25 +167,21 @@ void Frm_ProjectManager::DeleteFileIndex() {
 }
 
 void Frm_ProjectManager::LoadExtendedFiles() {
-    m_project.Clear();
-    m_projectPath.clear();
-    bool broken = false;
+    m_project.Close();
     if (RuntimeExtension::FileExists(Global::CurrentFile)) {
-        m_projectPath = ProjectFile::PathFor(ReturnIndexFile());
-        broken = !Attempt([this] { m_project.Load(m_projectPath); });
+        m_project.Load(ProjectFile::PathFor(ReturnIndexFile()));
     }
     FillExtendedFileList();
-    if (!broken || m_toldPath == m_projectPath) return;
-    m_toldPath = m_projectPath; // once, not at every scan
-    Dialogs::Tell(Caption,
-                  u"Die Projektdatei '%1' enthält mehr als %2 Einträge und kann nicht geladen werden."_s.arg(
-                      Files::ToSystem(m_projectPath), QString::number(ProjectFile::Capacity)),
-                  Dialogs::Icon::Critical);
+    if (!m_project.IsBroken()) {
+        m_toldPath.clear();
+    } else if (m_toldPath != m_project.Path()) {
+        m_toldPath = m_project.Path(); // once, not at every scan
+        TellLoadFailure();
+    }
 }
 
-bool Frm_ProjectManager::SaveExtendedFiles() const {
-    if (m_projectPath.isEmpty() || !RuntimeExtension::FileExists(Global::CurrentFile)) return true;
-    return m_project.Save(m_projectPath);
+bool Frm_ProjectManager::SaveExtendedFiles() {
+    return !RuntimeExtension::FileExists(Global::CurrentFile) || m_project.Save();
 }
 
 void Frm_ProjectManager::FillExtendedFileList() {

@@ -6,7 +6,6 @@
 #include "project/link_scanner.h"
 #include "project/project_file.h"
 
-#include <QElapsedTimer>
 #include <vector>
 
 class FileListModel;
@@ -34,7 +33,7 @@ public:
     // The project's index page: the first page gone through, or the current document.
     QString ReturnIndexFile() const;
     // Rewrites the project file with the files added by hand; returns false when that failed.
-    bool SaveExtendedFiles() const;
+    bool SaveExtendedFiles();
     // Lays out the window and, unless `keepOthers`, those beside it.
     void ActualizeSize(bool keepOthers);
     // Draws both lists anew. The files are not looked for.
@@ -71,10 +70,12 @@ private:
     void AddFoundRow(const LinkRow& row);
     void ShowFoundRows();
     void LetEventsRun();
+    void ShowScanCaption();
     bool IsScanning(unsigned scan) const { return m_open && m_scan == scan; }
 
     void LoadExtendedFiles();
     void FillExtendedFileList();
+    void TellLoadFailure() const;
     void TellSaveFailure() const;
 
     // Runs a routine behind the present event: it may end the window, which its own controls must survive.
@@ -109,13 +110,12 @@ private:
 
     LinkScanner m_scanner;
     std::vector<FileListRow> m_found; // told by the scan, not shown yet
-    QElapsedTimer m_sinceEvents;
-    QElapsedTimer m_sinceRows;
-    unsigned m_scan = 0; // number of the scan that runs or has run last
+    double m_eventsRun = 0;           // when events ran last, in seconds since midnight
+    double m_rowsShown = 0;           // when rows were shown last
+    unsigned m_scan = 0;              // number of the scan that runs or has run last
 
     IndexHistory m_history;
-    ProjectFile m_project;
-    QString m_projectPath; // the project file of m_project; empty without a document on disk
+    ProjectFile m_project; // closed without a document on disk
     QString m_toldPath;    // the project file whose loading failed last
 
     // The row clicked last.

@@ -34,6 +34,11 @@ const QString InsertFilter = QStringLiteral(
     "(*.swf)|*.swf|"
     "Scripte (*.js;*.vbs)|*.js;*.vbs|Archive (*.zip)|*.zip|Alle Dateien (*.*)|*.*");
 
+// A question on a file names it: the row may have been chosen long ago.
+QString WithPath(const QString& question, const QString& path) {
+    return question + u"\r\n\r\n"_s + Files::ToSystem(path);
+}
+
 bool IsFile(const QString& tag) { return !tag.isEmpty() && tag != u"Error" && tag != u"Extern"; }
 
 } // namespace
@@ -70,14 +75,15 @@ void Frm_ProjectManager::OpenFromList(QString path) {
 }
 
 void Frm_ProjectManager::Lvw_Files_DblClick() {
-    if (!ScanFinished) return;
+    if (!ScanFinished || SelectedList != List::Files) return;
     if (SelectedTag == u"Extern") return Dialogs::OpenAddress(SelectedText);
     if (IsFile(SelectedTag) && SelectedTag != Global::CurrentFile) OpenFromList(SelectedTag);
 }
 
 // Such a file is no part of the link tree: while it is open, nothing is scanned.
 void Frm_ProjectManager::Lvw_ExtendedFiles_DblClick() {
-    if (!ScanFinished || !IsFile(SelectedTag) || SelectedTag == Global::CurrentFile) return;
+    if (!ScanFinished || SelectedList != List::ExtendedFiles) return;
+    if (!IsFile(SelectedTag) || SelectedTag == Global::CurrentFile) return;
     const QString path = SelectedTag; // saving under a new name scans, which clears it
     if (!AskToSave(SaveQuestion)) return;
     if (Global::AutoScan) {
@@ -110,12 +116,13 @@ void Frm_ProjectManager::Delete_Click() {
 }
 
 void Frm_ProjectManager::RemoveFromProject() {
-    const Answer answer = Dialogs::MsgBox(
-        {u"Entfernen"_s,
-         u"Möchten Sie diese Datei aus dem Projekt entfernen? Sie wird dabei nicht gelöscht."_s,
-         Icon::Exclamation, Buttons::YesNo});
+    const QString path = SelectedTag;
+    const QString question =
+        u"Möchten Sie diese Datei aus dem Projekt entfernen? Sie wird dabei nicht gelöscht."_s;
+    const Answer answer =
+        Dialogs::MsgBox({u"Entfernen"_s, WithPath(question, path), Icon::Exclamation, Buttons::YesNo});
     if (answer != Answer::Yes) return;
-    m_project.Remove(SelectedTag);
+    m_project.Remove(path);
     if (!SaveExtendedFiles()) TellSaveFailure();
     FillExtendedFileList();
     ActivateButtons();
@@ -123,9 +130,9 @@ void Frm_ProjectManager::RemoveFromProject() {
 
 void Frm_ProjectManager::DeleteFile() {
     const QString path = SelectedTag;
-    const Answer answer = Dialogs::MsgBox(
-        {u"Löschen"_s, u"Sind Sie sicher, dass Sie die Datei in den Papierkorb verschieben möchten?"_s,
-         Icon::Exclamation, Buttons::YesNo});
+    const QString question = u"Sind Sie sicher, dass Sie die Datei in den Papierkorb verschieben möchten?"_s;
+    const Answer answer =
+        Dialogs::MsgBox({u"Löschen"_s, WithPath(question, path), Icon::Exclamation, Buttons::YesNo});
     if (answer != Answer::Yes) return;
     if (Files::IsFullPath(path)) Files::MoveToTrash(path); // nothing else names a file
     SearchLinks();
@@ -172,6 +179,7 @@ void Frm_ProjectManager::NewMenu_Click() {
 }
 
 void Frm_ProjectManager::InsertFile() {
+    if (m_project.IsBroken()) return TellLoadFailure(); // an entry could be kept nowhere
     const QString path = Dialogs::OpenFileDialog(u"Projektdatei einfügen"_s, InsertFilter);
     if (path.isEmpty()) return;
     if (!Attempt([&] { m_project.Add(path); })) {
@@ -187,9 +195,19 @@ void Frm_ProjectManager::InsertFile() {
     ActivateButtons();
 }
 
+void Frm_ProjectManager::TellLoadFailure() const {
+    const QString path = Files::ToSystem(m_project.Path());
+    const QString text =
+        m_project.GetState() == ProjectFile::State::TooLong
+            ? u"Die Projektdatei '%1' enthält mehr als %2 Einträge und kann nicht geladen werden."_s.arg(
+                  path, QString::number(ProjectFile::Capacity))
+            : u"Die Projektdatei '%1' kann nicht gelesen werden. Sie bleibt unverändert."_s.arg(path);
+    Dialogs::Tell(u"ProjektManager"_s, text, Icon::Critical);
+}
+
 void Frm_ProjectManager::TellSaveFailure() const {
     Dialogs::Tell(u"ProjektManager"_s,
                   u"Die Projektdatei '%1' kann nicht gespeichert werden. Stellen Sie sicher, dass sie nicht "
-                  "schreibgeschützt ist."_s.arg(Files::ToSystem(m_projectPath)),
+                  "schreibgeschützt ist."_s.arg(Files::ToSystem(m_project.Path())),
                   Icon::Critical);
 }

@@ -10,12 +10,14 @@
 #include "state/global.h"
 #include "state/neighbours.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QStyle>
+#include <QStyleOptionTitleBar>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeView>
@@ -156,6 +158,28 @@ void Frm_ProjectManager::DockFrame() {
     Frame()->setMaximumWidth(Twips::ToPixels(GreatestWidth));
 }
 
+// The title of a narrow window has no room for the caption of a scan. Its last words, which say that one
+// runs, are shown then rather than its beginning.
+void Frm_ProjectManager::ShowScanCaption() {
+    if (ScanFinished || Frame() == this) return;
+    constexpr int Border = 4; // pixels that the frame keeps beside its title
+    QStyleOptionTitleBar bar;
+    bar.initFrom(Frame());
+    bar.titleBarFlags = Frame()->windowFlags();
+    bar.subControls = QStyle::SC_All;
+    bar.text = windowTitle();
+    bar.rect = {Border, Border, Frame()->width() - 2 * Border,
+                Frame()->style()->pixelMetric(QStyle::PM_TitleBarHeight, &bar, Frame())};
+    const QRect room =
+        Frame()->style()->subControlRect(QStyle::CC_TitleBar, &bar, QStyle::SC_TitleBarLabel, Frame());
+    const QFontMetrics metrics(QApplication::font("QMdiSubWindowTitleBar"));
+    QString shown = windowTitle();
+    while (shown.contains(u' ') && metrics.horizontalAdvance(shown) > room.width()) {
+        shown.remove(0, shown.indexOf(u' ') + 1);
+    }
+    Frame()->setWindowTitle(shown);
+}
+
 void Frm_ProjectManager::GiveRoom() {
     if (Global::CodeWindowOpen) Shared<Frm_Code>().ActualizeSize();
     if (Global::BrowserOpen) Neighbours::LayoutBrowser();
@@ -201,6 +225,7 @@ void Frm_ProjectManager::MoveDivider(double pointer) {
 void Frm_ProjectManager::resizeEvent(QResizeEvent* event) {
     MdiChild::resizeEvent(event);
     LayOut();
+    ShowScanCaption();
 }
 
 void Frm_ProjectManager::PlaceChanged(int state) {
@@ -218,11 +243,16 @@ bool Frm_ProjectManager::HandleListKey(List list, QEvent* event) {
     if (!open && key != Qt::Key_Delete) return false;
     event->accept();
     if (event->type() == QEvent::ShortcutOverride) return true; // the key means the list, not the code
+    // It means the row selected in this list, never the one that was chosen in the other.
+    const bool files = list == List::Files;
+    if (list != SelectedList || !(files ? Lvw_Files : Lvw_ExtendedFiles)->selectionModel()->hasSelection()) {
+        return true;
+    }
     if (!open) {
         m_delete->trigger();
-    } else if (list == SelectedList) {
-        Later(list == List::Files ? &Frm_ProjectManager::Lvw_Files_DblClick
-                                  : &Frm_ProjectManager::Lvw_ExtendedFiles_DblClick);
+    } else {
+        Later(files ? &Frm_ProjectManager::Lvw_Files_DblClick
+                    : &Frm_ProjectManager::Lvw_ExtendedFiles_DblClick);
     }
     return true;
 }

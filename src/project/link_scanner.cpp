@@ -20,11 +20,19 @@
 #include <utility>
 #include <vector>
 
+// The links of a text, and what the scan that runs has told and done with them.
+struct TextLinks {
+    LinkList list;
+    bool cutShortTold = false;
+    QSet<qsizetype> unresolvedTold; // numbers of links
+    bool searchedAgain = false;     // under the path of a file that could not be loaded
+};
+
 // What outlives a scan: the text of the file loaded last, and the number of the scan that runs.
 struct LinkScanner::State {
     QString text;
     std::optional<QString> title;
-    std::shared_ptr<const LinkList> links;
+    std::shared_ptr<TextLinks> links;
     unsigned scan = 0;
 
     void Hold(const QString& newText) {
@@ -37,10 +45,11 @@ struct LinkScanner::State {
         return *title;
     }
     // Shared, so that a page that waits for those it links to keeps its links alone and not its text.
-    std::shared_ptr<const LinkList> Links() {
+    std::shared_ptr<TextLinks> Links() {
         if (!links) {
-            links = std::make_shared<const LinkList>(
-                FindLinks(text, {LinkMarker::Href, LinkMarker::Src, LinkMarker::Url, LinkMarker::Navigate}));
+            links = std::make_shared<TextLinks>();
+            links->list =
+                FindLinks(text, {LinkMarker::Href, LinkMarker::Src, LinkMarker::Url, LinkMarker::Navigate});
         }
         return links;
     }
@@ -48,15 +57,17 @@ struct LinkScanner::State {
 
 namespace {
 
-// Links into a folder that is not there give an ever deeper path at each search of the kept text. Beyond
-// these limits such files keep their rows but are not searched, so that they cannot fill the memory.
-constexpr int MostSearchesOfKeptText = 255;
-constexpr qsizetype LongestPath = 32767;
-
 bool IsExternal(const QString& link) {
     const QString lower = Text::LowerCase(link);
     constexpr std::array<QStringView, 5> signs{u"https:", u"ftp:", u"www.", u"http:", u"mailto:"};
     return std::any_of(signs.begin(), signs.end(), [&](QStringView sign) { return lower.contains(sign); });
+}
+
+// Whether no file can bear the name, wherever the site is put up: it is not looked for in vain then. A link
+// with a query ("seite.htm?x=1") is of that kind.
+bool IsBadName(const QString& name) {
+    return std::any_of(name.begin(), name.end(),
+                       [](QChar c) { return c < u' ' || u"?*:<>|\""_s.contains(c); });
 }
 
 // The icon of a found file; empty for one of no known kind. The last test that holds counts, and the whole
@@ -86,7 +97,9 @@ public:
         : m_state(std::move(state)), m_number(++m_state->scan), m_root(root),
           m_rootFolder(Global::ParentPath(root)),
           m_projectFiles(u'-' + Text::UpperCase(settings.projectFiles)), m_settings(settings),
-          m_listener(listener) {}
+          m_listener(listener) {
+        m_state->links.reset(); // what one scan has told, the next one tells again
+    }
 
     LinkScanner::Counts Run() {
         ScanLinkedFile(m_root, m_root, Global::FileNameOf(m_root));
@@ -105,7 +118,7 @@ private:
     struct WaitingPage {
         QString path;
         QString folder; // with "\" at its end
-        std::shared_ptr<const LinkList> list;
+        std::shared_ptr<TextLinks> links;
         qsizetype next = 0;
     };
 
@@ -130,6 +143,7 @@ private:
     bool IsListed(const QString& extension) const;
     Loading Load(const QString& path);
     bool IsSearched(const QString& path, Loading loading);
+    QString Resolve(const QString& link, const WaitingPage& page) const;
     bool CanRead(const QString& path);
     void DescribeMissing(LinkRow& row) const;
     void DescribeFound(LinkRow& row) const;
@@ -147,7 +161,6 @@ private:
     std::vector<WaitingPage> m_waiting;
     QSet<QString> m_seen; // paths of the rows, upper case
     QHash<QString, bool> m_readable;
-    int m_keptTextSearches = 0;
 };
 
 bool LinkScan::IsListed(const QString& extension) const {
@@ -173,7 +186,8 @@ LinkScan::Loading LinkScan::Load(const QString& path) {
     }
     Files::ReadError error = Files::ReadError::None;
     Files::Read(path, &error);
-    return error == Files::ReadError::FileNotFound ? Loading::Missing : Loading::Failed;
+    const bool missing = error == Files::ReadError::FileNotFound && !IsBadName(Global::FileNameOf(path));
+    return missing ? Loading::Missing : Loading::Failed;
 }
 
 bool LinkScan::CanRead(const QString& path) {
@@ -202,7 +216,8 @@ bool LinkScan::IsSearched(const QString& path, Loading loading) {
     if (m_counts.files > m_settings.maxLinkDeep) return false;
     if (loading == Loading::Missing || Text::UpperCase(path).contains(u".CSS")) return false;
     if (loading == Loading::Loaded) return true;
-    return path.size() <= LongestPath && ++m_keptTextSearches <= MostSearchesOfKeptText;
+    // Under each missing folder its links would be new ones again, into folders ever deeper.
+    return !std::exchange(m_state->Links()->searchedAgain, true);
 }
 
 void LinkScan::ScanLinkedFile(const QString& target, const QString& linkedFrom, const QString& linkName) {
@@ -258,19 +273,31 @@ bool LinkScan::IsFollowed(const QString& target) const {
            m_projectFiles.contains(extension);
 }
 
+// The path that the link `page.next` has been taken from leads to; empty for one that climbs too far, which
+// is told once, however often its text is searched.
+QString LinkScan::Resolve(const QString& link, const WaitingPage& page) const {
+    const auto path = Global::PathOfLink(link, page.folder);
+    if (path) return *path;
+    const qsizetype told = page.links->unresolvedTold.size();
+    page.links->unresolvedTold.insert(page.next);
+    const bool isNew = page.links->unresolvedTold.size() > told;
+    return isNew ? Global::ResolveLink(link, page.folder) : QString();
+}
+
 // Looks at the next link of the topmost page; returns whether a link is done with. It is not while the page
 // that it leads to waits.
 bool LinkScan::FollowNextLink() {
     WaitingPage& page = m_waiting.back();
-    if (page.next == page.list->links.size()) {
-        if (page.list->cutShort) Dialogs::Tell({}, u"Unerwarteter Fehler."_s, Dialogs::Icon::None);
+    const LinkList& list = page.links->list;
+    if (page.next == list.links.size()) {
+        const bool tell = list.cutShort && !std::exchange(page.links->cutShortTold, true);
         m_waiting.pop_back();
+        if (tell) Dialogs::Tell({}, u"Unerwarteter Fehler."_s, Dialogs::Icon::None);
         return false;
     }
-    const QString link = page.list->links[page.next++];
+    const QString link = list.links[page.next++];
     ++m_counts.links;
-    QString target = link;
-    if (!IsExternal(link)) target = Global::CutBefore(Global::ResolveLink(link, page.folder), u"#"_s);
+    QString target = IsExternal(link) ? link : Global::CutBefore(Resolve(link, page), u"#"_s);
     if (target.isEmpty()) {
         m_waiting.pop_back();
         return false;

@@ -16,6 +16,8 @@ struct ExtendedFileRow {
     QString icon;
 };
 
+// The entries belong to the one file that Load() has named, and only what came out of it whole goes back into
+// it: a project file that could not be loaded is never written.
 class ProjectFile {
 public:
     static constexpr qsizetype Capacity = 1024;
@@ -24,14 +26,26 @@ public:
     // name.
     static QString PathFor(const QString& indexFile);
 
-    // Replaces the entries by those of the project file `path`; by none when it cannot be opened. Throws
-    // RuntimeError for a file of more than 1024 lines. It is then as if there were none, so that a later Save
-    // does not cut it short.
-    void Load(const QString& path);
-    // Rewrites the project file with the entries that are left; returns whether it worked. Without any entry,
-    // removed ones included, it is left alone, and true.
-    bool Save(const QString& path) const;
-    void Clear() { m_files.clear(); }
+    enum class State {
+        Closed,     // no file: the entries are nowhere on disk
+        Loaded,     // the entries are those of the file, or the file does not exist yet
+        TooLong,    // it has more than 1024 lines
+        Unreadable, // it is a folder, protected, or no text
+    };
+    // Replaces the entries by those of the project file `path`, by none where it does not exist or cannot be
+    // loaded; returns the state behind it.
+    State Load(const QString& path);
+    // Forgets the entries and their file.
+    void Close();
+    State GetState() const { return m_state; }
+    bool IsBroken() const { return m_state == State::TooLong || m_state == State::Unreadable; }
+    // The file of the entries, also when it could not be loaded.
+    const QString& Path() const { return m_path; }
+
+    // Rewrites the file with the entries that are left; returns whether it worked. A file whose entries have
+    // not changed is left alone, and true; so is that of no state but Loaded: true when closed, false when
+    // broken.
+    bool Save();
 
     // Throws RuntimeError when there are 1024 entries already, removed ones included. The same file may be
     // added twice.
@@ -45,5 +59,8 @@ public:
     std::vector<ExtendedFileRow> Rows() const;
 
 private:
+    QString m_path;
+    State m_state = State::Closed;
     QStringList m_files; // an empty one is a removed one
+    bool m_changed = false;
 };

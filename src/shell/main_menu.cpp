@@ -9,10 +9,19 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QStyle>
 #include <QToolBar>
 #include <QToolButton>
 #include <vector>
+
+namespace {
+
+// Of these commands only the items close, for documents that have no preview; what the commands have to say
+// of such a document is said to whoever presses their keys. That is meant.
+constexpr QStringView OpenByKey[] = {u"Menu_View_Browser_Once", u"Menu_View_Browser_Temp"};
+
+} // namespace
 
 MainMenu::MainMenu(QMainWindow* window, std::function<void(const QString&)> run)
     : QObject(window), m_window(window), m_run(std::move(run)) {
@@ -61,6 +70,18 @@ void MainMenu::BuildMenus() {
             parent->addAction(action);
         }
         ShowState(name);
+    }
+    BuildKeys();
+}
+
+// The keys of a closed item are those of nobody; they get an owner that is open just then.
+void MainMenu::BuildKeys() {
+    for (const QStringView name : OpenByKey) {
+        const QString command = name.toString();
+        auto* key = new QShortcut(Action(command)->shortcut(), m_window);
+        connect(key, &QShortcut::activated, this, [this, command] { m_run(command); });
+        m_keys.insert(command, key);
+        ShowState(command);
     }
 }
 
@@ -116,4 +137,5 @@ void MainMenu::ShowState(const QString& name) {
     action->setEnabled(state.enabled);
     action->setVisible(state.visible);
     if (action->isCheckable()) action->setChecked(state.checked);
+    if (QShortcut* key = m_keys.value(name)) key->setEnabled(!state.enabled);
 }

@@ -9,6 +9,7 @@
 class QAction;
 class QMainWindow;
 class QMenu;
+class QShortcut;
 class QToolBar;
 
 // Menu bar and tool bar of the main window, built from the table of commands and kept in step with their
@@ -32,10 +33,12 @@ public:
 
 private:
     QAction* MakeAction(const QString& name, const QString& text, QStringView icon, const QString& command);
+    void BuildKeys();
     void ShowState(const QString& name);
 
     QMainWindow* m_window;
     std::function<void(const QString&)> m_run;
     QHash<QString, QAction*> m_actions;
+    QHash<QString, QShortcut*> m_keys; // by the command that they stand in for
     QMenu* m_codeMenu = nullptr;
 };

@@ -30,6 +30,8 @@ class FrmAssistant : public QObject {
     std::unique_ptr<ScriptedDialogs> m_dialogs;
     std::unique_ptr<Driver::RunningProgram> m_program;
 
+    static constexpr int Patience = 30000; // milliseconds
+
     void Start() { m_program = std::make_unique<Driver::RunningProgram>(); }
     static QString Said() { return Driver::Find<QPlainTextEdit>(u"Lbl_HelpText"_s)->toPlainText(); }
     static QMovie* Player() { return Driver::Find<QLabel>(u"Gif_AssistantAnimation"_s)->movie(); }
@@ -57,10 +59,12 @@ private slots:
         QCoreApplication::processEvents();
         Shared<Frm_Code>().FitMode = 2;
         Shared<Frm_Main>().resize(1000, 640);
-        QTest::qWait(20);
-        QCOMPARE(Frame()->geometry().right() + 1, Client().width());
-        QCOMPARE(Frame()->geometry().top(), 0);
-        QVERIFY(qAbs(Frame()->height() - Client().height()) <= 1);
+        const auto atTheEdge = [](int width) {
+            const QRect place = Frame()->geometry();
+            return place.topRight() == QPoint(Client().width() - 1, 0) && place.width() == width &&
+                   qAbs(place.height() - Client().height()) <= 1;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(atTheEdge(155), Patience);
         QCOMPARE(Neighbours::AssistantWidth(), 2325);
         const QWidget* code = Shared<Frm_Code>().parentWidget();
         QVERIFY(code->geometry().right() <= Frame()->geometry().left());
@@ -69,14 +73,11 @@ private slots:
         for (const int wanted : {300, 900, 20}) {
             const QRect place = Frame()->geometry();
             Frame()->setGeometry(place.right() + 1 - wanted, 0, wanted, place.height());
-            QTest::qWait(20);
-            QCOMPARE(Frame()->width(), std::clamp(wanted, 155, 400));
-            QCOMPARE(Frame()->geometry().right() + 1, Client().width());
-            QCOMPARE(code->geometry().right() + 1, Frame()->geometry().left());
+            QTRY_VERIFY_WITH_TIMEOUT(atTheEdge(std::clamp(wanted, 155, 400)), Patience);
+            QTRY_COMPARE_WITH_TIMEOUT(code->geometry().right() + 1, Frame()->geometry().left(), Patience);
         }
         Frame()->move(50, 60);
-        QTest::qWait(20);
-        QCOMPARE(Frame()->geometry().topRight(), QPoint(Client().width() - 1, 0));
+        QTRY_VERIFY_WITH_TIMEOUT(atTheEdge(155), Patience);
 
         Driver::Trigger(u"Menu_Help_Assistant"_s);
         QVERIFY(!Global::AssistantOpen);
@@ -101,7 +102,7 @@ private slots:
         Neighbours::RunAnimation(0, {});
         QVERIFY(Said().isEmpty());
         QCOMPARE(Figure(), u"anim4.anm"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(Player()->state(), QMovie::NotRunning, 1500);
+        QTRY_COMPARE_WITH_TIMEOUT(Player()->state(), QMovie::NotRunning, Patience);
         Neighbours::RunAnimation(1, {});
         QCOMPARE(Player()->state(), QMovie::Running);
     }
@@ -114,7 +115,7 @@ private slots:
         QCOMPARE(Player()->state(), QMovie::NotRunning);
         now += 4;
         Driver::Click(u"Cmd_UserHelp_1"_s); // needs no waiting
-        QTRY_COMPARE_WITH_TIMEOUT(Player()->state(), QMovie::Running, 1000);
+        QTRY_COMPARE_WITH_TIMEOUT(Player()->state(), QMovie::Running, Patience);
         now += 1;
         // two tools that close, one behind the other, cut no gesture short and start no new one
         const QString gesture = Figure();
@@ -122,7 +123,7 @@ private slots:
         Neighbours::RunAnimation(0, {});
         QCOMPARE(Figure(), gesture);
         now += 3.5;
-        QTRY_COMPARE_WITH_TIMEOUT(Player()->state(), QMovie::NotRunning, 4500);
+        QTRY_COMPARE_WITH_TIMEOUT(Player()->state(), QMovie::NotRunning, Patience);
     }
 
     void explainsTags() {
@@ -166,13 +167,11 @@ private slots:
     void aLongTextScrollsInASmallWindow() {
         Start();
         Shared<Frm_Main>().resize(700, 460);
-        QTest::qWait(20);
         const auto* text = Driver::Find<QPlainTextEdit>(u"Lbl_HelpText"_s);
         const QWidget* tip = Driver::FindControl(u"Cmd_UserHelp_0"_s);
         const QWidget* help = Driver::FindControl(u"Cmd_UserHelp_2"_s);
         Neighbours::RunAnimation(2, u"Ein sehr langer Text. "_s.repeated(60) + QString(500, u'x'));
-        QTest::qWait(20);
-        QVERIFY(text->verticalScrollBar()->maximum() > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(text->verticalScrollBar()->maximum() > 0, Patience);
         QCOMPARE(text->horizontalScrollBar()->maximum(), 0);
         QVERIFY(text->height() > 40);
         QCOMPARE(text->geometry().bottom() + 1, tip->geometry().top());

@@ -37,14 +37,13 @@ private slots:
         QCOMPARE(Shared<Frm_Help>().windowTitle(), u"Sorvane HTML Editor 3.0 Hilfe"_s);
         auto* view = Driver::Find<QWebEngineView>(u"Browser"_s);
         const auto shows = [view](const QString& title) {
-            const bool there = QTest::qWaitFor([&] { return view->title() == title; }, 30000);
-            QTest::qWait(500); // the page is painted a moment later, and only then it can be clicked
-            return there;
+            return QTest::qWaitFor([&] { return view->title() == title; }, 30000) &&
+                   Driver::FeelsTheMouse(view);
         };
         const auto sends = [&](int band, const QString& address) {
             dialogs.ExpectAddress(address);
             Follow(view, band);
-            return QTest::qWaitFor([&] { return dialogs.Finished(); }, 10000);
+            return QTest::qWaitFor([&] { return dialogs.Finished(); }, 30000);
         };
         QVERIFY(shows(u"Hilfe"_s));
         QCOMPARE(view->size(), Shared<Frm_Help>().size());

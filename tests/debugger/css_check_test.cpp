@@ -18,6 +18,7 @@ private slots:
     void PagesWithStyles();
     void LowAccuracySkipsBlocks();
     void StyleSheetWithoutItsLastCharacter();
+    void WarningsEndAtSixteenBits();
     void HostileSheets_data();
     void HostileSheets();
     void ShippedDesignsHaveNoRow();
@@ -130,6 +131,7 @@ void CssCheck::PagesWithStyles_data() {
     row("attributes and elements in turn", u"<p STYLE=\"a:1\"><style>b:2; </style><p style=\"c:3\">"_s,
         {Unit(u"1"_s, 12), Unit(u"2"_s, 24), Unit(u"3"_s, 47)});
     row("empty attribute reaches to the next quotation mark", u"<p style=\"\" id=\"x\">"_s);
+    row("and what stands before that mark is its value", u"<p style=\"\" x:1;id=\"\">"_s, {Unit(u"1"_s, 14)});
     row("element without an end", u"<style>a:1; <p style=\"b:2\">"_s, {Unit(u"2"_s, 24)});
     row("attribute without an end", u"<p style=\"a:1>"_s);
     row("empty element", u"<style></style><p style=\"b:2\">"_s, {fault, Unit(u"2"_s, 27)});
@@ -148,6 +150,9 @@ void CssCheck::LowAccuracySkipsBlocks() {
     const QString page = u"<p style=\"a:1\"><p style=\"b:2\">"_s;
     QCOMPARE(PageRows(page, 100).size(), 2);
     QCOMPARE(PageRows(page, 70), QStringList{Unit(u"1"_s, 12)});
+    // Markup without an end moves the scan on by whole steps, not to where it stands.
+    const QString endless = QString(9, u'.') + u"<style>"_s + QString(17, u'.') + u"style=\"b:2\">"_s;
+    QCOMPARE(PageRows(endless, 70), QStringList{Unit(u"2"_s, 42)});
     // Unfinished markup leads the scan back to the top, and this time it meets the element that it had
     // skipped.
     const QString unfinished =
@@ -162,6 +167,18 @@ void CssCheck::StyleSheetWithoutItsLastCharacter() {
     QCOMPARE(RowTexts(report), QStringList{Unit(u"1"_s, 2)});
 }
 
+// Each warning that cannot be counted any more is a fault of the check, and has its row nevertheless.
+void CssCheck::WarningsEndAtSixteenBits() {
+    Debugger::Report report;
+    Debugger::CheckCSSSyntax(u"a:1;"_s.repeated(32768), Debugger::StyleMode::Head, 1, report);
+    QCOMPARE(report.counts.cssWarnings, 32767);
+    QCOMPARE(RowTexts(report).mid(32766), (QStringList{Unit(u"1"_s, 131066), Fault, Unit(u"1"_s, 131070)}));
+    report = {};
+    Debugger::CheckCSSSyntax(u"a:;"_s.repeated(32768), Debugger::StyleMode::Head, 1, report);
+    QCOMPARE(report.counts.cssErrors, 32768);
+    QCOMPARE(report.rows.size(), size_t(32768));
+}
+
 void CssCheck::HostileSheets_data() {
     QTest::addColumn<QString>("css");
     QTest::addColumn<int>("rows");
@@ -169,7 +186,7 @@ void CssCheck::HostileSheets_data() {
     QTest::newRow("colons alone") << u"a{"_s + u"b:c "_s.repeated(75000) << 74999;
     QTest::newRow("semicolons before a colon") << u"a:b"_s + QString(100000, u';') + u":c"_s << 99999;
     QTest::newRow("a long value judged again and again")
-        << u"a: "_s + QString(100000, u'1') + QString(50000, u';') + u":c"_s << 1 + 2 * 49999;
+        << u"a: "_s + QString(100000, u'1') + QString(50000, u';') + u":c"_s << 1 + 2 * 49999 + 50000 - 32767;
     QTest::newRow("comment without an end") << u"/*"_s + u"a:1;/*"_s.repeated(50000) << 0;
 }
 

@@ -30,6 +30,8 @@ class FrmDebug : public QObject {
     std::unique_ptr<ScriptedDialogs> m_dialogs;
     std::unique_ptr<Driver::RunningProgram> m_program;
 
+    static constexpr int Patience = 30000; // milliseconds
+
     static Txt_Code& Box() { return *Shared<Frm_Code>().TextBox; }
     static ErrorList* List() { return Driver::Find<ErrorList>(u"Lvw_Errors"_s); }
     static QWidget* Frame() { return Shared<Frm_DeBug>().parentWidget(); }
@@ -151,7 +153,6 @@ private slots:
 
     void liesUnderTheCode() {
         Open(u"<b>"_s);
-        QTest::qWait(20);
         const QWidget* code = Shared<Frm_Code>().parentWidget();
         const auto fits = [&](int height) {
             return Frame()->height() == height && Frame()->geometry().bottom() + 1 == Client().height() &&
@@ -159,7 +160,7 @@ private slots:
                    Frame()->width() == Client().width() - Neighbours::AssistantWidth() / 15;
         };
         QVERIFY(Global::AssistantOpen);
-        QVERIFY(fits(150));
+        QTRY_VERIFY_WITH_TIMEOUT(fits(150), Patience);
         QCOMPARE(Neighbours::DebuggerHeight(), 2250);
         Driver::Trigger(u"Menu_Help_Assistant"_s);
         QVERIFY(fits(150));
@@ -167,25 +168,20 @@ private slots:
         // by its upper edge, by its lower one, and pulled away by its title
         const QRect place = Frame()->geometry();
         Frame()->setGeometry(place.adjusted(0, -100, 0, 0));
-        QTest::qWait(20);
-        QVERIFY(fits(250));
+        QTRY_VERIFY_WITH_TIMEOUT(fits(250), Patience);
         Frame()->setGeometry(Frame()->geometry().adjusted(0, 0, 0, -50));
-        QTest::qWait(20);
-        QVERIFY(fits(200));
+        QTRY_VERIFY_WITH_TIMEOUT(fits(200), Patience);
         Frame()->move(40, 60);
-        QTest::qWait(20);
-        QVERIFY(fits(200));
+        QTRY_VERIFY_WITH_TIMEOUT(fits(200), Patience);
 
         // a small main window leaves the code some room, and the strip its height for later
         Frame()->setGeometry(Frame()->geometry().adjusted(0, -200, 0, 0));
         QVERIFY(fits(400));
         Shared<Frm_Main>().resize(700, 460);
-        QTest::qWait(20);
-        QVERIFY(Frame()->height() < 400 && fits(Frame()->height()));
+        QTRY_VERIFY_WITH_TIMEOUT(Frame()->height() < 400 && fits(Frame()->height()), Patience);
         QVERIFY(code->height() > 60);
         Shared<Frm_Main>().resize(1000, 700);
-        QTest::qWait(20);
-        QVERIFY(fits(400));
+        QTRY_VERIFY_WITH_TIMEOUT(fits(400), Patience);
 
         Frame()->close();
         QVERIFY(!Global::DebuggerOpen);
@@ -334,7 +330,7 @@ private slots:
         hover(2);
         QVERIFY(QToolTip::text().startsWith(u"<p>unbekannter Tag: &lt;xxx"));
         hover(1); // fits, so the tip goes
-        QTRY_VERIFY(!QToolTip::isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!QToolTip::isVisible(), Patience);
         Box().SetText(u"<"_s + QString(150, u'y') + u">"_s);
         Neighbours::CheckSyntax();
         hover(1);

@@ -99,10 +99,16 @@ void HtmlCheck::SmallPages_data() {
     row("odd quotation marks", u"<a href=\"x></a>"_s, {OddQuotes});
     row("even quotation marks in the text", u"Er sagte \"nein\"."_s);
     row("a comment does not close what stands before it", u"\" <!-- \" --> \"\""_s, {OddQuotes});
+    row("quotation marks right behind a comment", u"<!-- -->\"\""_s);
+    row("a comment that opens and closes at once", u"<!--><!-->"_s);
     row("everything at once", u"<xy></p>\"-->"_s,
         {Unknown(u"xy"_s, 1), TooOften(u"/p"_s, 5), NotClosed(u"xy"_s, 1), OddQuotes, CommentClosedTooOften});
     row("the name of blanked entries in a page", u"<<[nothing]-><b></b></<[NOTHING]->"_s,
         {Unknown(u"<[nothing]-"_s, 1), Unknown(u"/<[NOTHING]-"_s, 21)});
+    row("an entry that bears their name counts as blanked", u"<<[NOTHING]->"_s,
+        {Unknown(u"<[NOTHING]-"_s, 1)});
+    row("but only as it is written", u"<<[nothing]->"_s,
+        {Unknown(u"<[nothing]-"_s, 1), NotClosed(u"<[nothing]-"_s, 1)});
     row("the name of blanked entries finds one", u"<b></b></<[NOTHING]->"_s, {Unknown(u"/<[NOTHING]-"_s, 8)});
 }
 

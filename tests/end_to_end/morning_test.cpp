@@ -122,7 +122,7 @@ private slots:
         Global::AutoDebug = Global::AutoProjectManager = false;
         Documents::OpenFile(folder.Write(u"a.txt"_s, "abcdef"));
         Shared<Frm_Main>().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&Shared<Frm_Main>()));
+        QVERIFY(QTest::qWaitForWindowActive(&Shared<Frm_Main>(), 30000));
         Box().setFocus();
         Driver::PressCode(Qt::Key_Delete); // without a selection the key is the box's
         QCOMPARE(Box().Text(), u"bcdef"_s);

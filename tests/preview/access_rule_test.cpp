@@ -8,6 +8,8 @@
 #include "support/program_folder.h"
 #include "support/test_registry.h"
 
+#include <QFile>
+
 // What the view may load, and how its addresses are written.
 class AccessRules : public QObject {
     Q_OBJECT
@@ -89,10 +91,37 @@ private slots:
             QVERIFY(!allows(u"/site/b.htm"_s, AccessRule::Part::Data));
             QVERIFY(!allows(u"/etc/passwd"_s, AccessRule::Part::Frame));
             QVERIFY(!allows(u"/etc/"_s, AccessRule::Part::Frame));
-            QVERIFY(!allows(u"/home/a.htm.txt"_s, AccessRule::Part::Frame));
+            QVERIFY(!allows(u"/site/wert.js"_s, AccessRule::Part::Frame));
             QVERIFY(allows(u"/site/NAVI.HTM"_s, AccessRule::Part::Frame));
             QVERIFY(allows(u"/site/stil.css"_s, AccessRule::Part::Other));
         }
+    }
+
+    void showsTextsOfThePagesOwnFolders() {
+        const ProgramFolder folder(ProgramFolder::Content::Empty);
+        for (const QString& name : {u"a.txt"_s, u"site/b.TXT"_s, u"site/sub/c.pdf"_s, u"site/LIESMICH"_s,
+                                    u"site.txt"_s, u"site/x.ini"_s, u"site2/d.txt"_s}) {
+            folder.Write(name, "x");
+        }
+        QVERIFY(QFile::link(folder.System(u"a.txt"_s), folder.System(u"site/link.txt"_s)));
+        const QUrl page = QUrl::fromLocalFile(Files::ToSystem(folder.Write(u"site/s.htm"_s, "x")));
+        AccessRule rule;
+        const auto shown = [&](const QString& name) {
+            return rule.AllowsPart(QUrl::fromLocalFile(folder.System(name)), AccessRule::Part::Frame, page);
+        };
+        for (const QString& name : {u"site/b.TXT"_s, u"site/sub/c.pdf"_s, u"site/LIESMICH"_s}) {
+            QVERIFY2(shown(name), qPrintable(name));
+        }
+        for (const QString& name : {u"a.txt"_s, u"site/../a.txt"_s, u"site.txt"_s, u"site2/d.txt"_s,
+                                    u"site/x.ini"_s, u"site/link.txt"_s, u"site/sub"_s, u"site/"_s}) {
+            QVERIFY2(!shown(name), qPrintable(name));
+        }
+        // where a script could send what it reads into the network, it gets nothing to read
+        rule.browsingAlone = true;
+        QVERIFY(!shown(u"site/b.TXT"_s));
+        rule.browsingAlone = false;
+        QVERIFY(!rule.AllowsPart(QUrl::fromLocalFile(folder.System(u"site/b.TXT"_s)), AccessRule::Part::Frame,
+                                 QUrl(u"http://verein.example/"_s)));
     }
 
     void keepsTheRefusedAddressInItsNotice() {

@@ -3,6 +3,8 @@
 
 #include "documents/document_commands.h"
 #include "documents/frm_code.h"
+#include "platform/events.h"
+#include "platform/files.h"
 #include "platform/literals.h"
 #include "platform/mdi_child.h"
 #include "preview/frm_navigation.h"
@@ -14,10 +16,14 @@
 #include "support/scripted_dialogs.h"
 #include "support/test_registry.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMessageBox>
+#include <QMimeData>
+#include <QScopeGuard>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QWebEngineView>
@@ -177,16 +183,69 @@ private slots:
 
     void keepsScriptsInTheirPage() {
         m_folder->Write(u"geheim.txt"_s, "geheim");
-        m_folder->Write(u"wert.js"_s, "var wert = 7;");
+        m_folder->Write(u"site/wert.js"_s, "var wert = 7;");
         Preview(
-            "<title>Leer</title><script src=wert.js></script><iframe id=f src=geheim.txt></iframe><script>"
+            "<title>Leer</title><script src=wert.js></script><iframe id=f src=../geheim.txt></iframe><script>"
             "var x = new XMLHttpRequest; var r = 'nichts';"
-            "try { x.open('GET', 'geheim.txt', false); x.send(); r = x.responseText; } catch (e) {}"
+            "try { x.open('GET', 'wert.js', false); x.send(); r = x.responseText; } catch (e) {}"
             "onload = function () { var t = ''; try { t = document.getElementById('f').contentDocument.body"
-            ".innerText; } catch (e) {} document.title = wert + r + t.indexOf('geheim'); };</script>");
+            ".innerText; } catch (e) {} document.title = wert + r + t.indexOf('geheim'); };</script>",
+            u"site/seite.htm"_s);
         QVERIFY2(WaitForTitle(u"7nichts-1"_s), qPrintable(Caption()));
         QCOMPARE(Evaluate(u"typeof RTCPeerConnection"_s), u"undefined"_s);
         QVERIFY(Page()->profile()->isOffTheRecord());
+    }
+
+    void showsTextsInFramesAndNamesWhatItDoesNot() {
+        m_folder->Write(u"geheim.txt"_s, "geheim");
+        m_folder->Write(u"site/sub/liesmich.txt"_s, "Guten Tag");
+        m_folder->Write(u"site/LIESMICH"_s, "Ohne Endung");
+        Preview("<title>Eins</title><iframe src=sub/liesmich.txt></iframe><iframe src=LIESMICH></iframe>"
+                "<iframe src=../geheim.txt></iframe><iframe src=http://127.0.0.1:9/></iframe>",
+                u"site/rahmen.htm"_s);
+        QVERIFY(WaitForTitle(u"Eins"_s));
+        const auto frame = [this](int number) {
+            return Evaluate(
+                u"try { frames[%1].document.body.innerText } catch (e) { 'fremd' }"_s.arg(number));
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(frame(0), u"Guten Tag"_s, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(frame(1), u"Ohne Endung"_s, Patience);
+        const auto status = [] { return Shared<Frm_Browser>().Status(); };
+        QTRY_VERIFY_WITH_TIMEOUT(status().startsWith(u"Nicht geladen: "), Patience);
+        QVERIFY2(status().endsWith(u" und 1 weitere"), qPrintable(status()));
+        // notices stand in the other two, which no script of the page can look into
+        for (const int number : {2, 3}) QTRY_COMPARE_WITH_TIMEOUT(frame(number), u"fremd"_s, Patience);
+        QCOMPARE(Evaluate(u"document.querySelectorAll('iframe')[2].getAttribute('src')"_s),
+                 u"../geheim.txt"_s); // the page itself is as it was
+        Driver::Trigger(u"Menu_View_Navigation"_s);
+        QCOMPARE(Shared<Frm_Navigation>().windowTitle(), u"Navigation - "_s + status());
+    }
+
+    // A file from outside is opened in the editor; what the page's reader drags about in it stays there.
+    void leavesDroppedFilesToTheEditor() {
+        Preview("<title>Eins</title>");
+        QVERIFY(WaitForTitle(u"Eins"_s));
+        auto* view = Driver::Find<QWebEngineView>(u"Browser"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(view->focusProxy(), Patience);
+        int number = 0;
+        for (QWidget* target : {static_cast<QWidget*>(view), view->focusProxy()}) {
+            const QString path = m_folder->Write(u"neu%1.htm"_s.arg(++number), "<p>");
+            QMimeData file;
+            file.setUrls({QUrl::fromLocalFile(Files::ToSystem(path))});
+            // as the application does: whoever takes the file as it enters gets it
+            for (QWidget* widget = target; widget; widget = widget->parentWidget()) {
+                if (!widget->acceptDrops()) continue;
+                QDragEnterEvent enter({20, 20}, Qt::CopyAction, &file, Qt::LeftButton, {});
+                enter.ignore();
+                QCoreApplication::sendEvent(widget, &enter);
+                if (!enter.isAccepted()) continue;
+                QDropEvent drop({20, 20}, Qt::CopyAction, &file, Qt::LeftButton, {});
+                QCoreApplication::sendEvent(widget, &drop);
+                break;
+            }
+            QTRY_COMPARE_WITH_TIMEOUT(Global::CurrentFile, path, Patience);
+        }
+        QCOMPARE(Caption(), u"HTML Vorschau - Eins"_s);
     }
 
     void handsNewWindowsToTheUsersBrowser() {
@@ -197,8 +256,7 @@ private slots:
             "<script>onload = function () { window.open('drei.htm'); }</script>");
         QVERIFY(WaitForTitle(u"Eins"_s));
         auto* view = Driver::Find<QWebEngineView>(u"Browser"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(view->focusProxy(), Patience);
-        Evaluate(u"1"_s); // the page stands
+        QVERIFY(Driver::FeelsTheMouse(view));
         const QString question =
             u"Die Vorschau zeigt das nicht selbst. Soll es in Ihrem Browser geöffnet werden?\r\n\r\n"_s;
         m_dialogs->ExpectMessage(u"HTML Vorschau"_s, question + m_folder->System(u"zwei.htm"_s),
@@ -227,13 +285,61 @@ private slots:
         QVERIFY(!reload->isVisible());
 
         // a script without end is left behind by the next preview
-        m_folder->Write(u"seite.htm"_s, "<script>while (true) {}</script>");
+        double now = 1000;
+        const auto restore = qScopeGuard(
+            [before = Events::Replace({{}, [&now] { return now; }, {}})] { Events::Replace(before); });
+        m_folder->Write(u"seite.htm"_s, "<title>Ohne Ende</title><script>while (true) {}</script>");
         Shared<Frm_Browser>().Refresh();
-        QTest::qWait(3000);
-        QVERIFY(Page()->isLoading());
+        QTRY_VERIFY_WITH_TIMEOUT(Page()->isLoading(), Patience);
+        const QWebEnginePage* stuck = Page();
+        Shared<Frm_Browser>().Refresh(); // too early: it may yet come to an end
+        QCOMPARE(Page(), stuck);
+        now += 3;
         m_folder->Write(u"seite.htm"_s, "<title>Heil</title>");
         Shared<Frm_Browser>().Refresh();
         QVERIFY(WaitForTitle(u"Heil"_s));
+    }
+
+    // Their menu items are closed, and yet their keys say what there is to say.
+    void keysGoOnForStylesAndScripts() {
+        const QString path = m_folder->Write(u"stil.css"_s, "a{b:c}\r\n");
+        Documents::OpenFile(path);
+        Global::AssistantOpen = true;
+        QStringList said;
+        Neighbours::RunAnimation.AnsweredBy([&](int, const QString& text) { said << text; });
+        QStringList shown;
+        Neighbours::Browse.AnsweredBy([&](const QString& file) { shown << file; });
+        for (const char* item : {"Menu_View_Browser_Once", "Menu_View_Browser_Temp"}) {
+            QVERIFY(!Driver::IsEnabled(QString::fromLatin1(item)));
+        }
+        Shared<Frm_Main>().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&Shared<Frm_Main>(), Patience));
+        Neighbours::FocusCode();
+        Driver::TypeCode(u"x"_s);
+        Driver::PressCode(Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(shown, QStringList{m_folder->Path(u"temp.css"_s)});
+        QCOMPARE(m_folder->Read(u"temp.css"_s), "xa{b:c}\r\n");
+        QVERIFY(Global::DocChanged);
+        said.clear();
+        Driver::PressCode(Qt::Key_F5);
+        QCOMPARE(m_folder->Read(u"stil.css"_s), "xa{b:c}\r\n");
+        QVERIFY(said.contains(u"Für diesen Dateityp ist keine Vorschau möglich."_s));
+        QCOMPARE(shown.size(), 1);
+        // a page has its keys from its items, and once only
+        Documents::OpenFile(m_folder->Write(u"a.htm"_s, "<p>"));
+        Driver::PressCode(Qt::Key_F5);
+        QCOMPARE(shown.mid(1), QStringList{m_folder->Path(u"a.htm"_s)});
+        Global::AssistantOpen = false;
+    }
+
+    // With all windows opening by themselves the caret stands in what can only be edited.
+    void leavesTheFocusInTheCodeOfAStyleSheet() {
+        Global::AutoPreView = Global::AutoDebug = Global::AutoProjectManager = true;
+        Documents::OpenFile(m_folder->Write(u"stil.css"_s, "a{b:c}"));
+        QCoreApplication::processEvents();
+        QVERIFY(Global::DebuggerOpen && !Global::BrowserOpen);
+        QVERIFY(Shared<Frm_Code>().IsActiveChild());
+        QCOMPARE(QApplication::focusWidget(), Shared<Frm_Code>().TextBox);
     }
 
     void silencesARowOfMessages() {
@@ -269,12 +375,12 @@ private slots:
         const int left = browser.Left();
         QVERIFY(left > 0 && browser.Width() < left);
         browser.ShowMaximizedState(); // the button of its title bar, twice
-        QTRY_VERIFY(fits(0));
+        QTRY_VERIFY_WITH_TIMEOUT(fits(0), Patience);
         QCOMPARE(browser.State(), 0);
         browser.ShowMaximizedState();
         QCOMPARE(browser.Left(), left);
         Driver::Trigger(u"Menu_Window_MaximizeAll"_s);
-        QTRY_VERIFY(fits(0));
+        QTRY_VERIFY_WITH_TIMEOUT(fits(0), Patience);
         Global::ProjectWindowOpen = true;
         Neighbours::ProjectManagerWidth.AnsweredBy([] { return 2200; });
         Neighbours::LayoutBrowser();

@@ -18,6 +18,7 @@
 #include "support/test_registry.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMdiArea>
 #include <QToolBar>
 #include <QToolButton>
@@ -97,6 +98,13 @@ class FrmProjectManager : public QObject {
         Shared<Frm_Main>().showNormal();
         Shared<Frm_Main>().resize(1000, 700);
         QCoreApplication::processEvents();
+    }
+    // Opens the window with a clock that makes it let events run behind each link, as `events` has them.
+    static void RunWithEventsAtEachLink(const std::function<void()>& events) {
+        double now = 1000;
+        const auto before = Events::Replace({events, [&now] { return now += 1; }, {}});
+        Driver::Trigger(u"Menu_Tools_ProjectManager"_s);
+        Events::Replace(before);
     }
     // A site whose first page links to `count` others.
     QString WriteLargeSite(int count) const {
@@ -261,7 +269,9 @@ private slots:
         OpenSite();
         const auto expect = [&](Answer answer) {
             m_dialogs->ExpectMessage(
-                u"Löschen"_s, u"Sind Sie sicher, dass Sie die Datei in den Papierkorb verschieben möchten?"_s,
+                u"Löschen"_s,
+                u"Sind Sie sicher, dass Sie die Datei in den Papierkorb verschieben möchten?\r\n\r\n"_s +
+                    m_folder->System(u"verein/aktuell/termine.htm"_s),
                 answer, Dialogs::Icon::Exclamation);
         };
         ClickRow(FileList(), u"termine.htm"_s);
@@ -276,6 +286,43 @@ private slots:
         const QModelIndex row = ClickRow(FileList(), u"termine.htm"_s);
         QCOMPARE(Cell(row, Type), u"aaa"_s);
         QCOMPARE(Enabled(), u"GoTo New"_s);
+        QTest::keyClick(&FileList(), Qt::Key_Delete);
+        QCoreApplication::processEvents();
+    }
+
+    // Keys and mouse mean the list that they go to, and there the selected row alone.
+    void keysMeanTheirOwnList() {
+        m_folder->Write(u"verein/index..prj"_s, m_folder->System(u"verein/dateien/antrag.pdf"_s).toUtf8());
+        OpenSite();
+        QCOMPARE(AddedList().model()->rowCount(), 1);
+        ClickRow(FileList(), u"termine.htm"_s);
+        for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Return, Qt::Key_Enter}) {
+            QTest::keyClick(&AddedList(), key); // nothing is selected there
+            QCoreApplication::processEvents();
+        }
+        const QPoint nowhere(10, AddedList().viewport()->height() - 3);
+        QTest::mouseDClick(AddedList().viewport(), Qt::LeftButton, {}, nowhere);
+        QTest::mouseClick(AddedList().viewport(), Qt::RightButton, {}, nowhere);
+        QCoreApplication::processEvents();
+        QCOMPARE(Global::CurrentFile, Page(u"index.htm"_s));
+        QVERIFY(m_folder->Has(u"verein/aktuell/termine.htm"_s));
+
+        ClickRow(AddedList(), u"antrag.pdf"_s);
+        QTest::keyClick(&FileList(), Qt::Key_Delete); // and the other way round
+        QTest::keyClick(&FileList(), Qt::Key_Return);
+        QCoreApplication::processEvents();
+        m_dialogs->ExpectMessage(
+            u"Entfernen"_s,
+            u"Möchten Sie diese Datei aus dem Projekt entfernen? Sie wird dabei nicht gelöscht.\r\n\r\n"_s +
+                m_folder->System(u"verein/dateien/antrag.pdf"_s),
+            Answer::No);
+        QTest::keyClick(&AddedList(), Qt::Key_Delete);
+        QCoreApplication::processEvents();
+        QVERIFY(m_dialogs->Finished());
+        // a row that a click has deselected is none
+        const QModelIndex row = ClickRow(FileList(), u"termine.htm"_s);
+        QTest::mouseClick(FileList().viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          FileList().visualRect(row).center());
         QTest::keyClick(&FileList(), Qt::Key_Delete);
         QCoreApplication::processEvents();
     }
@@ -303,7 +350,8 @@ private slots:
         QCOMPARE(Enabled(), u"Open Delete New"_s);
         m_dialogs->ExpectMessage(
             u"Entfernen"_s,
-            u"Möchten Sie diese Datei aus dem Projekt entfernen? Sie wird dabei nicht gelöscht."_s,
+            u"Möchten Sie diese Datei aus dem Projekt entfernen? Sie wird dabei nicht gelöscht.\r\n\r\n"_s +
+                m_folder->System(u"verein/dateien/antrag.pdf"_s),
             Answer::Yes, Dialogs::Icon::Exclamation);
         Press(u"Delete"_s);
         QCOMPARE(ColumnOf(AddedList(), Name), QStringList{u"preisliste.txt"_s});
@@ -330,28 +378,44 @@ private slots:
         QVERIFY(FileList().model()->rowCount() > 3);
     }
 
-    void tellsOfABrokenProject() {
-        QByteArray lines;
-        for (int i = 0; i < 1025; ++i) lines += "/x/" + QByteArray::number(i) + ".gif\r\n";
-        m_folder->Write(u"verein/index..prj"_s, lines);
-        m_dialogs->ExpectMessage(
-            u"ProjektManager"_s,
-            u"Die Projektdatei '%1' enthält mehr als 1024 Einträge und kann nicht geladen "
-            "werden."_s.arg(m_folder->System(u"verein/index..prj"_s)),
-            Answer::Ok, Dialogs::Icon::Critical);
+    void leavesABrokenProjectAlone_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("too long")
+            << QByteArray("/x/a.gif\n").repeated(1025)
+            << u"Die Projektdatei '%1' enthält mehr als 1024 Einträge und kann nicht geladen werden."_s;
+        QTest::newRow("binary")
+            << QByteArray("/x\\a.gif\n\0", 10)
+            << u"Die Projektdatei '%1' kann nicht gelesen werden. Sie bleibt unverändert."_s;
+    }
+    void leavesABrokenProjectAlone() {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, message);
+        m_folder->Write(u"verein/index..prj"_s, bytes);
+        const auto expect = [&] {
+            m_dialogs->ExpectMessage(u"ProjektManager"_s,
+                                     message.arg(m_folder->System(u"verein/index..prj"_s)), Answer::Ok,
+                                     Dialogs::Icon::Critical);
+        };
+        expect();
         OpenSite();
         Driver::Trigger(u"Menu_File_Save"_s); // scans again, and says nothing more
+        expect();
+        Press(u"New_InsertFile"_s); // without asking for a file
+        QVERIFY(m_dialogs->Finished());
+        DoubleClickRow(FileList(), u"termine.htm"_s);
         Unload<Frm_ProjectManager>();
-        QCOMPARE(m_folder->Read(u"verein/index..prj"_s), lines);
-        // nor can one be written where a folder stands
-        m_folder->Write(u"verein/wap/index..prj/x"_s, {});
-        Documents::OpenFile(Page(u"wap/index.wml"_s));
-        Driver::Trigger(u"Menu_Tools_ProjectManager"_s);
+        QCOMPARE(m_folder->Read(u"verein/index..prj"_s), bytes);
+    }
+
+    void tellsThatAProjectCannotBeSaved() {
+        OpenSite();
+        QVERIFY(QDir().mkpath(m_folder->System(u"verein/index..prj/x"_s)));
         m_dialogs->ExpectOpenFile(u"Projektdatei einfügen"_s, Page(u"index.htm"_s));
         m_dialogs->ExpectMessage(
             u"ProjektManager"_s,
             u"Die Projektdatei '%1' kann nicht gespeichert werden. Stellen Sie sicher, dass sie "
-            "nicht schreibgeschützt ist."_s.arg(m_folder->System(u"verein/wap/index..prj"_s)));
+            "nicht schreibgeschützt ist."_s.arg(m_folder->System(u"verein/index..prj"_s)));
         Press(u"New_InsertFile"_s);
     }
 
@@ -379,6 +443,18 @@ private slots:
         Press(u"Back"_s);
         QCOMPARE(Global::CurrentFile, Page(u"index.htm"_s));
         QVERIFY(!Button(u"Back"_s)->isEnabled());
+    }
+
+    // Closing the document window takes the debugger along; the room of its strip is the project window's.
+    void takesTheRoomOfTheStrip() {
+        OpenSite();
+        Driver::Trigger(u"Menu_Debug_Start"_s);
+        const auto bottom = [] { return Shared<Frm_ProjectManager>().parentWidget()->geometry().bottom(); };
+        const int client = Shared<Frm_Main>().Area()->viewport()->height();
+        QVERIFY(bottom() < client - 100);
+        Unload<Frm_Code>();
+        QVERIFY(!Global::DebuggerOpen && Global::ProjectWindowOpen);
+        QVERIFY(std::abs(bottom() + 1 - client) <= 1);
     }
 
     void standsAtTheLeftEdge() {
@@ -423,31 +499,30 @@ private slots:
     }
 
     void staysUsableWhileRowsComeIn() {
-        Documents::OpenFile(WriteLargeSite(3000));
+        Documents::OpenFile(WriteLargeSite(100));
         Global::MaxLinkDeep = 1;
         int rowsSeen = 0;
-        bool picked = false;
-        const auto before =
-            Events::Replace({[&] {
-                                 QCoreApplication::processEvents();
-                                 if (!Loaded<Frm_ProjectManager>()) return;
-                                 if (Shared<Frm_ProjectManager>().ScanFinished) return;
-                                 if (!picked) QThread::msleep(40);
-                                 rowsSeen = FileList().model()->rowCount();
-                                 if (rowsSeen < 10 || picked) return;
-                                 picked = true;
-                                 QCOMPARE(Enabled(), QString());
-                                 QCOMPARE(Shared<Frm_ProjectManager>().windowTitle(),
-                                          u"ProjektManager wird aktualisiert..."_s);
-                                 DoubleClickRow(FileList(), u"index.htm"_s); // opens nothing yet
-                                 ClickRow(FileList(), u"s3.htm"_s);
-                             },
-                             {},
-                             {}});
-        Driver::Trigger(u"Menu_Tools_ProjectManager"_s);
-        Events::Replace(before);
-        QCOMPARE(FileList().model()->rowCount(), 3001);
-        QVERIFY(picked && rowsSeen < 3001);
+        QString shown; // the caption as far as the frame has room for it
+        const auto pick = [&] {
+            QCoreApplication::processEvents();
+            const Frm_ProjectManager& window = Shared<Frm_ProjectManager>();
+            const int rows = FileList().model()->rowCount();
+            if (window.ScanFinished || rowsSeen > 0 || rows < 10) return;
+            rowsSeen = rows;
+            QCOMPARE(Enabled(), QString());
+            QCOMPARE(window.windowTitle(), u"ProjektManager wird aktualisiert..."_s);
+            shown = window.parentWidget()->windowTitle();
+            DoubleClickRow(FileList(), u"index.htm"_s); // opens nothing yet
+            ClickRow(FileList(), u"s3.htm"_s);
+        };
+        RunWithEventsAtEachLink(pick);
+        QCOMPARE(FileList().model()->rowCount(), 101);
+        QVERIFY(rowsSeen > 0 && rowsSeen < 101);
+        // the narrow title has room for the words that say what goes on, and they are what it shows
+        QVERIFY2(shown.endsWith(u"aktualisiert..."), qPrintable(shown));
+        const QFontMetrics metrics(QApplication::font("QMdiSubWindowTitleBar"));
+        QVERIFY(metrics.horizontalAdvance(shown) < Shared<Frm_ProjectManager>().width() - 45);
+        QCOMPARE(Shared<Frm_ProjectManager>().parentWidget()->windowTitle(), u"ProjektManager"_s);
         // the row picked meanwhile is the one that the buttons mean
         QCOMPARE(Enabled(), u"Open Delete GoTo New"_s);
         QCOMPARE(FileList().selectionModel()->selectedIndexes().constFirst().data().toString(), u"s3.htm"_s);
@@ -463,9 +538,8 @@ private slots:
     }
     void endsInTheMiddleOfAScan() {
         QFETCH(QString, how);
-        const QString page = WriteLargeSite(3000);
-        Documents::OpenFile(page);
-        Global::MaxLinkDeep = 4000;
+        Documents::OpenFile(WriteLargeSite(20));
+        Global::MaxLinkDeep = 40;
         int runs = 0;
         int runsBehind = 0; // event runs of scans behind the end
         const auto act = [&] {
@@ -486,17 +560,17 @@ private slots:
             // its window goes while the scan still stands below
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         };
-        const auto before = Events::Replace({[&] {
-                                                 QCoreApplication::processEvents();
-                                                 if (++runs == 3) act();
-                                                 if (runs > 3) ++runsBehind;
-                                             },
-                                             {},
-                                             {}});
-        Driver::Trigger(u"Menu_Tools_ProjectManager"_s);
-        Events::Replace(before);
-        QVERIFY2(runs >= 3, "the scan was over before");
-        QCOMPARE(runsBehind, 0);
+        RunWithEventsAtEachLink([&] {
+            QCoreApplication::processEvents();
+            if (++runs == 3) {
+                act();
+            } else if (runs > 3) {
+                ++runsBehind;
+            }
+        });
+        QVERIFY(runs >= 3);
+        // one that scans again goes on with the one link of its page
+        QCOMPARE(runsBehind, how == u"scan again" ? 1 : 0);
         const bool gone = how == u"close" || how == u"close document";
         QCOMPARE(Loaded<Frm_ProjectManager>(), !gone);
         QCOMPARE(Global::ProjectWindowOpen, !gone);

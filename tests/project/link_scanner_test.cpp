@@ -127,7 +127,8 @@ private slots:
         same("ordner.htm", {u"HTMLFile ordner.htm"_s}); // a folder: no page, but not absent
         same("fehlt.htm", {u"Error3 fehlt.htm"_s});
         same("fehlt.js", {u"Error3 fehlt.js"_s});
-        same("a.htm?x=1", {u"Error3 a.htm?x=1"_s});
+        same("a.htm?x=1", {u"HTMLFile a.htm?x=1"_s}); // a bad name is no missing file
+        same("fehlt.htm|", {u"HTMLFile fehlt.htm|"_s});
         same("a.htm')", {u"HTMLFile a.htm"_s});
         row("fehlt.css", {u"- fehlt.css"_s}, {u"Error3 fehlt.css"_s});
         row("fehlt.wml", {u"- fehlt.wml"_s}, {u"Error3 fehlt.wml"_s});
@@ -266,26 +267,44 @@ private slots:
     }
 
     // A page in a folder that is not there counts as found, and the text loaded last is searched under its
-    // path.
+    // path, but once: each search of it would find new links in folders ever deeper.
     void missingFolder() {
         Site site;
-        site.settings.maxLinkDeep = 3;
-        site.Page(u"index.htm"_s, "<title>T</title>href=\"weg/a.htm\" href=\"b.htm\"");
-        site.Page(u"b.htm"_s, "");
-        site.Scan();
-        QStringList paths;
-        for (const LinkRow& row : site.rows) paths << row.path.sliced(site.Path({}).size());
-        QCOMPARE(paths,
-                 QStringList({u"index.htm"_s, u"weg\\a.htm"_s, u"weg\\weg\\a.htm"_s,
-                              u"weg\\weg\\weg\\a.htm"_s, u"weg\\weg\\b.htm"_s, u"weg\\b.htm"_s, u"b.htm"_s}));
+        site.settings.maxLinkDeep = 32767;
+        const QByteArray index = "<title>T</title>href=\"weg/a.htm\" href=\"b.htm\" href=\"fort/c.htm\"";
+        site.Page(u"index.htm"_s, index);
+        site.Page(u"b.htm"_s, "href=\"weg/d.htm\"");
+        const QStringList expected{u"index.htm"_s,  u"weg\\a.htm"_s,       u"weg\\weg\\a.htm"_s,
+                                   u"weg\\b.htm"_s, u"weg\\fort\\c.htm"_s, u"b.htm"_s,
+                                   u"weg\\d.htm"_s, u"weg\\weg\\d.htm"_s,  u"fort\\c.htm"_s};
+        for (int scan = 0; scan < 2; ++scan) { // the second one begins with the text that the first one kept
+            site.Scan();
+            QStringList paths;
+            for (const LinkRow& row : site.rows) paths << row.path.sliced(site.Path({}).size());
+            QCOMPARE(paths, expected);
+        }
         QCOMPARE(site.rows[1].title, u"T"_s);
         QCOMPARE(site.rows[1].tag, site.rows[1].path);
+    }
 
-        site.settings.maxLinkDeep =
-            32767; // the ever deeper paths come to an end, and the rest is still reached
+    // A fault of the text is told once a scan, however often its text is searched.
+    void missingFoldersAndFaults() {
+        Site site;
+        ScriptedDialogs dialogs;
+        site.settings.maxLinkDeep = 32767;
+        QByteArray index;
+        for (int i = 0; i < 300; ++i) index += "href=\"weg" + QByteArray::number(i) + "/a.htm\" ";
+        site.Page(u"index.htm"_s, index + "style=\"background:url(bild.gif;\"");
+        for (int scan = 0; scan < 2; ++scan) {
+            dialogs.ExpectMessage({}, Unexpected);
+            site.Scan();
+            QCOMPARE(site.counts.rows, 601);
+            QVERIFY(dialogs.Finished());
+        }
+        const QByteArray far = QByteArray("../").repeated(40) + "x.htm";
+        site.Page(u"index.htm"_s, "href=\"weg/a.htm\" href=\"" + far + "\"");
+        dialogs.ExpectMessage(u"Fehler"_s, BadPath, Dialogs::Answer::Ok, Dialogs::Icon::Critical);
         site.Scan();
-        QVERIFY(site.rows.size() < 600);
-        QCOMPARE(site.rows.back().path, site.Path(u"b.htm"_s));
     }
 
     void hostileStartPages() {

@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "project/project_file.h"
 
+#include "platform/files.h"
 #include "platform/literals.h"
 #include "platform/text.h"
 #include "project/file_management.h"
 #include "support/program_folder.h"
 #include "support/test_registry.h"
 
+#include <QFile>
 #include <QLocale>
 
 class ProjectFileTest : public QObject {
     Q_OBJECT
+
+    using State = ProjectFile::State;
 
 private slots:
     void init() { QLocale::setDefault(QLocale(QLocale::German)); }
@@ -28,12 +32,14 @@ private slots:
         const QStringList names{folder.Path(u"Bild ä.GIF"_s), folder.Path(u"x.htm.css"_s),
                                 folder.Path(u"żółw.zip"_s)};
         ProjectFile project;
-        QVERIFY(project.Save(path));
+        QVERIFY(project.Save()); // it belongs to no file yet
+        QCOMPARE(project.Load(path), State::Loaded);
+        QVERIFY(project.Save());
         QVERIFY(!folder.Has(u"index..prj"_s)); // nothing to keep, no file
         for (const QString& name : names) project.Add(name);
         project.Add(names[0]);
         project.Remove(names[0].toUpper());
-        QVERIFY(project.Save(path));
+        QVERIFY(project.Save());
 
         ProjectFile again;
         again.Load(path);
@@ -52,7 +58,7 @@ private slots:
         for (const QString& name : names) again.Remove(name);
         again.Remove(u"steht nicht darin"_s);
         QVERIFY(again.Rows().empty());
-        QVERIFY(again.Save(path));
+        QVERIFY(again.Save());
         QCOMPARE(folder.Read(u"index..prj"_s), QByteArray()); // the file stays, empty
         again.Load(folder.Path(u"fehlt..prj"_s));
         QCOMPARE(again.Count(), 0);
@@ -60,31 +66,59 @@ private slots:
 
     void bytesOnDisk() {
         const ProgramFolder folder(ProgramFolder::Content::Empty);
+        const QByteArray before = "C:\\a\\\xfc.htm\r\n\r\nC:\\b.gif";
         ProjectFile project;
-        project.Load(folder.Write(u"p..prj"_s, "C:\\a\\\xfc.htm\r\n\r\nC:\\b.gif"));
+        project.Load(folder.Write(u"p..prj"_s, before));
         QCOMPARE(project.Count(), 3);
         QCOMPARE(project.Rows()[0].name, u"ü.htm"_s);
-        project.Save(folder.Path(u"q..prj"_s));
-        QByteArray expected = "C:\\a\\\xfc.htm\r\nC:\\b.gif\r\n";
+        QVERIFY(project.Save());
+        QCOMPARE(folder.Read(u"p..prj"_s), before); // nothing was changed
+        project.Add(u"C:\\c.gif"_s);
+        QVERIFY(project.Save());
+        QByteArray expected = "C:\\a\\\xfc.htm\r\nC:\\b.gif\r\nC:\\c.gif\r\n";
 #ifndef Q_OS_WIN
         expected.replace('\\', '/');
 #endif
-        QCOMPARE(folder.Read(u"q..prj"_s), expected);
+        QCOMPARE(folder.Read(u"p..prj"_s), expected);
     }
 
     void itHoldsNoMoreThanItsPlaces() {
         const ProgramFolder folder(ProgramFolder::Content::Empty);
-        const QByteArray full = QByteArray("C:\\a.gif\r\n").repeated(ProjectFile::Capacity);
         ProjectFile project;
-        project.Load(folder.Write(u"voll..prj"_s, full));
+        project.Load(folder.Write(u"voll..prj"_s, QByteArray("C:\\a.gif\r\n").repeated(1024)));
         QCOMPARE(project.Count(), ProjectFile::Capacity);
         project.Remove(u"c:\\A.GIF"_s); // the place stays taken
         QVERIFY_EXCEPTION_THROWN(project.Add(u"C:\\b.gif"_s), RuntimeError);
-        const QByteArray tooLong = full + "C:\\zuviel.gif\r\n";
-        const QString path = folder.Write(u"lang..prj"_s, tooLong);
-        QVERIFY_EXCEPTION_THROWN(project.Load(path), RuntimeError);
-        QVERIFY(project.Save(path));
-        QCOMPARE(folder.Read(u"lang..prj"_s), tooLong); // no entry is lost
+    }
+
+    void whatCannotBeLoadedIsNeverWritten_data() {
+        QTest::addColumn<QByteArray>("bytes"); // none: a folder
+        QTest::addColumn<State>("state");
+        const QByteArray line = "/web/bild.gif\r\n";
+        QTest::newRow("1025 lines") << line.repeated(1025) << State::TooLong;
+        QTest::newRow("5000 lines") << line.repeated(5000) << State::TooLong;
+        QTest::newRow("binary") << line + QByteArray("\0\n\x01\xff/\\\r", 7) << State::Unreadable;
+        QTest::newRow("folder") << QByteArray() << State::Unreadable;
+        QTest::newRow("protected") << line << State::Unreadable;
+    }
+    void whatCannotBeLoadedIsNeverWritten() {
+        QFETCH(QByteArray, bytes);
+        const ProgramFolder folder(ProgramFolder::Content::Empty);
+        const QString name = u"index..prj"_s;
+        bytes.isNull() ? folder.Write(name + u"/x"_s, {}) : folder.Write(name, bytes);
+        if (QTest::currentDataTag() == QByteArray("protected")) {
+            QVERIFY(QFile::setPermissions(folder.System(name), QFile::WriteOwner));
+            if (Files::CanRead(folder.Path(name))) QSKIP("no permission stops this user");
+        }
+        ProjectFile project;
+        project.Load(folder.Write(u"andere..prj"_s, "/web/a.htm\r\n"));
+        QTEST(project.Load(folder.Path(name)), "state");
+        QVERIFY(project.IsBroken() && project.Rows().empty());
+        project.Add(u"\\web\\neu.gif"_s);
+        QVERIFY(!project.Save());
+        QFile::setPermissions(folder.System(name), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        QCOMPARE(folder.Read(name), bytes);
+        QCOMPARE(folder.Read(u"andere..prj"_s), QByteArray("/web/a.htm\r\n"));
     }
 
     void byteCounts_data() {

@@ -13,7 +13,11 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QTimer>
+#include <QWebEnginePage>
+#include <QWebEngineView>
+#include <memory>
 
 namespace Driver {
 
@@ -65,13 +69,38 @@ void PressCode(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QCoreApplication::processEvents();
 }
 
+bool FeelsTheMouse(QWebEngineView* view) {
+    constexpr int Patience = 30000; // milliseconds
+    view->page()->runJavaScript(u"window.felt = 0; addEventListener('mousemove', () => ++window.felt);"_s);
+    struct State {
+        bool asked = false; // a page that is asked again before it has answered never does
+        bool felt = false;
+    };
+    const auto state = std::make_shared<State>(); // the last answer may come behind this routine
+    int x = 0;
+    const auto move = [&] {
+        if (state->asked || !view->focusProxy()) return state->felt;
+        // straight to the view: a pointer moved over the screen may meet another window
+        const QPointF place(5 + ++x % 2, 5);
+        QMouseEvent event(QEvent::MouseMove, place, view->focusProxy()->mapToGlobal(place), Qt::NoButton,
+                          Qt::NoButton, {});
+        QCoreApplication::sendEvent(view->focusProxy(), &event);
+        state->asked = true;
+        view->page()->runJavaScript(u"window.felt > 0"_s, [state](const QVariant& felt) {
+            *state = {false, felt.toBool()};
+        });
+        return state->felt;
+    };
+    return QTest::qWaitFor(move, Patience);
+}
+
 void InModal(const QString& dialog, std::function<void(QWidget*)> inside) {
     auto* timer = new QTimer;
     timer->setInterval(5);
     QObject::connect(timer, &QTimer::timeout, timer, [timer, dialog, inside, tries = 0]() mutable {
         QWidget* modal = QApplication::activeModalWidget();
         const bool found = modal && modal->objectName() == dialog;
-        if (!found && ++tries < 400) return;
+        if (!found && ++tries < 6000) return;
         timer->stop();
         timer->deleteLater();
         if (found) {

@@ -6,6 +6,8 @@
 #include <QTest>
 #include <QWidget>
 
+class QWebEngineView;
+
 namespace Driver {
 
 // The control of that name in the program's windows; the test fails when there is none.
@@ -24,6 +26,9 @@ void Click(const QString& name);
 // Types keys into the code box as a person does.
 void TypeCode(const QString& text);
 void PressCode(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+// Moves the mouse over a web view until its page feels it, which is when a click will meet what is painted.
+// Returns whether it did.
+bool FeelsTheMouse(QWebEngineView* view);
 // Runs `inside` as soon as a modal dialog of that name is open.
 void InModal(const QString& dialog, std::function<void(QWidget*)> inside);
 
