@@ -147,6 +147,7 @@ void ShowAtRest() {
 }
 
 bool AskToSave(const QString& title, SaveFirst save) {
+    Recovery::Decline(false);
     if (!Global::DocChanged) return true;
     switch (
         Dialogs::MsgBox({title, UnsavedQuestion, Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel})) {
@@ -155,7 +156,7 @@ bool AskToSave(const QString& title, SaveFirst save) {
         // A text that was to be saved is not given up before there is a copy of it.
         return Global::SaveSucceeded || (save == SaveFirst::MayFail && Recovery::Write());
     case Answer::No:
-        Recovery::Settle();
+        Recovery::Decline(true);
         return true;
     default:
         return false;
@@ -224,6 +225,11 @@ void Menu_File_Import() {
 
 namespace {
 
+// The bytes of a picture are no text: nothing is taken from them but the line end that is added again.
+QString PictureToWrite(const QString& bytes) {
+    return bytes.endsWith(Text::LineBreak) ? bytes.chopped(Text::LineBreak.size()) : bytes;
+}
+
 // The text as it goes to disk. Tabs become 6 blanks in the box of a WML document and 3 in the held text; both
 // stand as designed.
 QString TextToWrite(bool wml) {
@@ -240,8 +246,7 @@ QString TextToWrite(bool wml) {
     } else {
         text = Global::HeldSource;
     }
-    // The bytes of a picture are no text: nothing is taken from them but the line end that is added again.
-    if (Global::PicturePreview) return text.endsWith(Text::LineBreak) ? text.chopped(2) : text;
+    if (Global::PicturePreview) return PictureToWrite(text);
     if (lower) CodeAccess::LowerCaseTags(text);
     text = DocumentFile::TrimTail(text);
     if (wml) text.replace(u'\t', u"   "_s);
@@ -258,20 +263,26 @@ void WriteDocument(bool refreshProject) {
         TellError(
             u"Fehler beim Speichern der Datei. Stellen Sie sicher, dass die Datei nicht schreibgeschützt ist."_s);
         Global::CurrentFile.clear(); // the next save asks for a name
+        // whatever the disk held before may be gone: the text is not saved
+        Global::DocChanged = true;
+        Neighbours::SetStatusPanel(StatePanel, u"geändert"_s);
         if (Global::ProjectWindowOpen) Neighbours::RefreshProject();
         Neighbours::ActivateFunktions();
         return;
     }
     Recovery::Settle();
-    SetFormat(format);
+    if (!Global::PicturePreview) SetFormat(format);
     ShowFileCaption(path);
     Global::LastFile = path;
     Global::SaveSucceeded = Global::DocOpen = true;
     Global::DocChanged = false;
     Neighbours::SetStatusPanel(StatePanel, u"gespeichert"_s);
-    // There is no extension test here but for wml: saving a style sheet turns its type into "Text".
-    SetType(DocumentFile::TypeOnSave(text, extension),
-            u"Der Dokumenttyp konnte nicht ermittelt werden. Die Datei ist als Text geöffnet."_s);
+    // There is no extension test here but for wml: saving a style sheet turns its type into "Text". A
+    // picture, which has no text to look into, stays one.
+    if (!Global::PicturePreview) {
+        SetType(DocumentFile::TypeOnSave(text, extension),
+                u"Der Dokumenttyp konnte nicht ermittelt werden. Die Datei ist als Text geöffnet."_s);
+    }
     if (refreshProject && Global::ProjectWindowOpen) Neighbours::SearchLinks();
     if (Global::FormatSubClassOpen) Neighbours::UpdateClassList();
     Neighbours::ActivateToolBar();
@@ -312,7 +323,9 @@ void Menu_File_SaveAs() {
 void SaveBackUp() {
     if (Global::OpenFailed) return;
     CodePage::Format format = Global::DocumentFormat;
-    DocumentFile::Save(Global::CurrentFile + u".bak"_s, DocumentFile::TrimTail(CurrentText()), format);
+    const QString text =
+        Global::PicturePreview ? PictureToWrite(CurrentText()) : DocumentFile::TrimTail(CurrentText());
+    DocumentFile::Save(Global::CurrentFile + u".bak"_s, text, format);
 }
 
 void Menu_File_Close() {
@@ -325,6 +338,7 @@ void Menu_File_Close() {
 void ShowRestored(const CodePage::Decoded& text) {
     CodeBox* box = Neighbours::TheCodeBox();
     if (!box) return;
+    Undo::UndoClear(); // no step leads back to the empty document that it is put into
     box->BeginDocument(text.text);
     SetFormat(text.format);
     const QString type = DocumentFile::TypeByMarker(text.text);

@@ -23,7 +23,31 @@ bool& BelongsToDocument() {
     return belongs;
 }
 
+bool& IsDeclined() {
+    static bool declined = false;
+    return declined;
+}
+
 QString Path() { return Files::ProgramDirectory() + u"\\bckup.tmp"_s; }
+
+// The copies of other texts, the last one the youngest.
+QString OlderPath(int number) { return Files::ProgramDirectory() + u"\\bckup%1.tmp"_s.arg(number); }
+
+int CountOfOlder() {
+    int count = 0;
+    while (Files::CanRead(OlderPath(count + 1))) ++count;
+    return count;
+}
+
+// Makes room for a copy of the open document's text. Returns whether there is room.
+bool StepBack() {
+    if (BelongsToDocument() || !Exists()) return true;
+    return Files::Rename(Path(), OlderPath(CountOfOlder() + 1));
+}
+
+void StepForward() {
+    if (const int older = CountOfOlder(); older > 0 && !Exists()) Files::Rename(OlderPath(older), Path());
+}
 
 void ShowCommand() { Commands::SetVisible(u"Menu_File_RestoreFile"_s, Exists()); }
 
@@ -31,7 +55,7 @@ void ShowCommand() { Commands::SetVisible(u"Menu_File_RestoreFile"_s, Exists());
 
 bool Write() {
     CodePage::Format format = Global::DocumentFormat;
-    const bool written = DocumentFile::Save(Path(), Documents::CurrentText(), format);
+    const bool written = StepBack() && DocumentFile::Save(Path(), Documents::CurrentText(), format);
     if (written) BelongsToDocument() = true;
     ShowCommand();
     return written;
@@ -56,9 +80,15 @@ void Menu_File_RestoreFile() {
 void Settle() {
     if (!std::exchange(BelongsToDocument(), false)) return;
     Files::Remove(Path());
+    StepForward();
     ShowCommand();
 }
 
-void Leave() { BelongsToDocument() = false; }
+void Decline(bool declined) { IsDeclined() = declined; }
+
+void Leave() {
+    if (std::exchange(IsDeclined(), false)) Settle();
+    BelongsToDocument() = false;
+}
 
 } // namespace Recovery

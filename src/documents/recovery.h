@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The recovery copy bckup.tmp in the program directory: a text that could not be saved. It goes once its text
-// is saved, or once the user has answered that it need not be.
+// is saved, or once its user has given it up. A copy of another text is never written over: it steps back as
+// bckup1.tmp, bckup2.tmp ... and comes forward again.
 #pragma once
 
 namespace Recovery {
@@ -14,9 +15,12 @@ bool Exists();
 // a copy that cannot be read leaves all as it is.
 void Menu_File_RestoreFile();
 
-// The open document's text has been saved, or its user has declined to: its copy goes.
+// The open document's text has been saved or is given up: its copy goes.
 void Settle();
-// Another document takes the open one's place, or it closes: the copy stays for the next start.
+// Whether the user has answered that the open text need not be saved. It counts once the text really goes.
+void Decline(bool declined);
+// Another document takes the open one's place, or it closes: a declined copy goes, any other stays for the
+// next start.
 void Leave();
 
 } // namespace Recovery

@@ -308,7 +308,8 @@ void PopupList::keyPressEvent(QKeyEvent* event) {
     const char16_t code = typed[0].unicode();
     if (code >= 37 && code <= 40) return;
     backToCode();
-    if (code >= 32) box.SetSelText(typed);
+    constexpr char16_t Delete = 127; // the key's code, which is no character
+    if (code >= 32 && code != Delete) box.SetSelText(typed);
     Say({});
 }
 

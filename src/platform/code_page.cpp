@@ -63,10 +63,11 @@ namespace {
 
 // Unit by unit, so that a half of a pair that stands alone stays what it is.
 QString FromUtf16(QByteArrayView bytes, Encoding encoding) {
-    QString text(bytes.size() / 2, Qt::Uninitialized);
+    QString text((bytes.size() + 1) / 2, Qt::Uninitialized);
     for (qsizetype i = 0; i < text.size(); ++i) {
         const auto first = static_cast<uchar>(bytes[2 * i]);
-        const auto second = static_cast<uchar>(bytes[2 * i + 1]);
+        // a last unit that was cut in half is completed, so that its byte is not lost
+        const auto second = 2 * i + 1 < bytes.size() ? static_cast<uchar>(bytes[2 * i + 1]) : uchar(0);
         text[i] = encoding == Encoding::Utf16LE ? QChar(first | second << 8) : QChar(first << 8 | second);
     }
     return text;
@@ -94,7 +95,7 @@ std::optional<QString> FromUtf8(QByteArrayView bytes) {
 
 // The encoding that the bytes tell, and the text in it.
 Decoded DecodeByEncoding(const QByteArray& bytes) {
-    if (bytes.size() % 2 == 0 && (bytes.startsWith(MarkLE) || bytes.startsWith(MarkBE))) {
+    if (bytes.startsWith(MarkLE) || bytes.startsWith(MarkBE)) {
         const Encoding encoding = bytes.startsWith(MarkLE) ? Encoding::Utf16LE : Encoding::Utf16BE;
         return {FromUtf16(QByteArrayView(bytes).sliced(2), encoding), {encoding}};
     }
@@ -103,7 +104,8 @@ Decoded DecodeByEncoding(const QByteArray& bytes) {
         auto text = FromUtf8(QByteArrayView(bytes).sliced(mark ? Mark.size() : 0));
         if (text) return {std::move(*text), {Encoding::Utf8, mark}};
     }
-    // A file that begins with a mark but does not go on as that says keeps every byte as Windows-1252.
+    // A file that begins with the mark of UTF-8 but does not go on as that says keeps every byte as
+    // Windows-1252.
     return {FromWindows1252(bytes), {}};
 }
 

@@ -34,7 +34,7 @@ struct Decoded {
 };
 
 // UTF-8 with a mark, or valid UTF-8 with at least one character beyond ASCII, is UTF-8; what begins with a
-// mark of UTF-16 and has an even number of bytes is UTF-16; all else is Windows-1252.
+// mark of UTF-16 is UTF-16; all else is Windows-1252.
 Decoded Decode(const QByteArray& bytes);
 
 // `text` (line breaks CR LF) as bytes in `format`. A text that Decode() would not read back as it is, since

@@ -89,7 +89,7 @@ void Frm_Browser::MakePage() {
     delete before;
     m_loadingSince.reset();
     connect(m_page, &QWebEnginePage::titleChanged, this, [this](const QString& title) {
-        SetCaption(Caption + u" - "_s + title);
+        ShowCaption();
         emit TitleChange(title);
     });
     connect(m_page, &QWebEnginePage::loadStarted, this, [this] {
@@ -106,6 +106,7 @@ void Frm_Browser::MakePage() {
     connect(m_page, &PreviewPage::StatusText, this, [this](const QString& text) {
         m_restStatus = text;
         emit StatusTextChange(text);
+        ShowCaption();
     });
     connect(m_page, &QWebEnginePage::renderProcessTerminated, this,
             [this](QWebEnginePage::RenderProcessTerminationStatus status) {
@@ -124,7 +125,18 @@ void Frm_Browser::LoadFinished(bool ok) {
         if (const QString refused = m_page->RefusedText(); ok && !refused.isEmpty()) m_restStatus = refused;
     }
     emit StatusTextChange(m_restStatus);
+    ShowCaption();
     emit DocumentComplete(Address());
+}
+
+// Names the page, and what of it was refused: a part inside a frame or an object has no place of its own to
+// say so.
+void Frm_Browser::ShowCaption() {
+    QStringList parts{Caption};
+    for (const QString& part : {m_page->title(), m_page->RefusedText()}) {
+        if (!part.isEmpty()) parts << part;
+    }
+    SetCaption(parts.join(u" - "_s));
 }
 
 // --- where it goes --------------------------------------------------------------------------------

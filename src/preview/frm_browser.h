@@ -62,6 +62,7 @@ private:
     void MakePage();
     void ReplaceStuckPage();
     void LoadFinished(bool ok);
+    void ShowCaption();
     void TakeFocus();
 
     AccessRule m_rule;

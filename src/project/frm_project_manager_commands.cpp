@@ -179,7 +179,13 @@ void Frm_ProjectManager::NewMenu_Click() {
 }
 
 void Frm_ProjectManager::InsertFile() {
-    if (m_project.IsBroken()) return TellLoadFailure(); // an entry could be kept nowhere
+    // an entry could be kept nowhere
+    if (m_project.IsBroken()) return TellLoadFailure();
+    if (m_project.GetState() == ProjectFile::State::Closed) {
+        Dialogs::Tell(u"ProjektManager"_s,
+                      u"Speichern Sie zuerst die Seite, zu der die Datei gehören soll."_s, Icon::Exclamation);
+        return;
+    }
     const QString path = Dialogs::OpenFileDialog(u"Projektdatei einfügen"_s, InsertFilter);
     if (path.isEmpty()) return;
     if (!Attempt([&] { m_project.Add(path); })) {

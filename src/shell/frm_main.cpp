@@ -25,6 +25,10 @@
 #include <QUrl>
 #include <QWindow>
 
+namespace {
+constexpr int StatePanel = 2;
+} // namespace
+
 Frm_Main::Frm_Main() : m_statusBar(new StatusBar(this)), m_area(new QMdiArea(this)) {
     setObjectName(u"Frm_Main"_s);
     setWindowIcon(Icons::Named(u"sorvane"));
@@ -43,6 +47,7 @@ Frm_Main::Frm_Main() : m_statusBar(new StatusBar(this)), m_area(new QMdiArea(thi
     m_menu->BuildMenus();
     m_menu->BuildToolBar();
     resize(1000, 700);
+    setMinimumSize(320, 240); // on a small screen the frame's buttons matter more than the whole status bar
     WireNeighbours();
 }
 
@@ -64,15 +69,25 @@ void Frm_Main::WireNeighbours() {
     Neighbours::StartBrowser.AnsweredBy([this] { StartBrowser(); });
     Neighbours::StartWAPBrowser.AnsweredBy([this] { StartWAPBrowser(); });
     const auto codeMayShow = [] { return Loaded<Frm_Code>() || Global::HasTextDocument(); };
-    TheCodeBox.AnsweredBy([=]() -> CodeBox* { return codeMayShow() ? Shared<Frm_Code>().TextBox : nullptr; });
+    // The window that comes back with its text has changed nothing.
+    const auto bringBack = [this]() -> Frm_Code& {
+        if (Loaded<Frm_Code>()) return Shared<Frm_Code>();
+        const bool changed = Global::DocChanged;
+        const QString state = m_statusBar->Panel(StatePanel);
+        Frm_Code& code = Shared<Frm_Code>();
+        Global::DocChanged = changed;
+        m_statusBar->SetPanel(StatePanel, state);
+        return code;
+    };
+    TheCodeBox.AnsweredBy([=]() -> CodeBox* { return codeMayShow() ? bringBack().TextBox : nullptr; });
     OpenCodeBox.AnsweredBy([]() -> CodeBox* { return Shared<Frm_Code>().TextBox; });
     FocusCode.AnsweredBy([=] {
         if (!codeMayShow()) return;
-        Shared<Frm_Code>().BringToFront();
+        bringBack().BringToFront();
         Shared<Frm_Code>().TextBox->SetFocus();
     });
     ShowCodeWindow.AnsweredBy([=] {
-        if (codeMayShow()) Shared<Frm_Code>().BringToFront();
+        if (codeMayShow()) bringBack().BringToFront();
     });
     Neighbours::ScriptBarShown.AnsweredBy(
         [] { return Loaded<Frm_Code>() && Shared<Frm_Code>().CodeTop() > 0; });

@@ -53,11 +53,12 @@ void SpeakGerman(QApplication& application) {
     }
 }
 
-// The browser engine does not ask for the desktop's palette: the handbook and pages that know a dark form would stay
-// light. It reads this when it starts, with the first window that shows a page.
+// The browser engine does not ask for the desktop's palette: the handbook and pages that know a dark form
+// would stay light. It reads this when it starts, with the first window that shows a page.
 void TellEngineOfDarkPalette() {
     const QPalette palette = QGuiApplication::palette();
-    if (palette.color(QPalette::Window).lightness() >= palette.color(QPalette::WindowText).lightness()) return;
+    if (palette.color(QPalette::Window).lightness() >= palette.color(QPalette::WindowText).lightness())
+        return;
     const QByteArray flags = qgetenv("QTWEBENGINE_CHROMIUM_FLAGS");
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", flags + " --blink-settings=preferredColorScheme=0");
 }
