@@ -24,15 +24,14 @@ private slots:
         };
         row("nothing", u"  "_s, QString(), false);
         row("host", u"www.verein.example"_s, u"http://www.verein.example"_s, true);
-        row("secure", u" https://verein.example/a?b=ä#c "_s, u"https://verein.example/a?b=ä#c"_s, true);
-        row("ftp", u"ftp://verein.example/"_s, u"ftp://verein.example/"_s, true);
+        row("blanks around", u" https://verein.example/a?b=ä#c "_s, u"https://verein.example/a?b=ä#c"_s,
+            true);
         row("unknown scheme", u"gopher://verein.example"_s, u"gopher://verein.example"_s, true);
         row("blank", u"about:blank"_s, u"about:blank"_s, false);
         row("file", u"file:///tmp/a%20b.htm"_s, u"file:///tmp/a%20b.htm"_s, false);
         row("share", u"file://server/a.htm"_s, u"file://server/a.htm"_s, true);
 #ifndef Q_OS_WIN
         row("program's form", u"\\tmp\\Größe 5%.htm"_s, u"file:///tmp/Größe%205%25.htm"_s, false);
-        row("system's form", u"/tmp/a.htm"_s, u"file:///tmp/a.htm"_s, false);
         row("place in a page", u"/tmp/a.htm#unten"_s, u"file:///tmp/a.htm#unten"_s, false);
 #endif
     }
@@ -49,10 +48,8 @@ private slots:
 
     void takesASharpSignInAFileNameAsItIs() {
         const ProgramFolder folder(ProgramFolder::Content::Empty);
-        const QString path = folder.Write(u"C#.htm"_s, "x");
-        const QUrl url = BrowserAddress::FromText(path);
-        QCOMPARE(url.toLocalFile(), Files::ToSystem(path));
-        QCOMPARE(BrowserAddress::Shown(url), Files::ToSystem(path));
+        const QUrl url = BrowserAddress::FromText(folder.Write(u"C#.htm"_s, "x"));
+        QCOMPARE(BrowserAddress::Shown(url), folder.System(u"C#.htm"_s));
     }
 
     void staysOfflineButForTheUsersOwnWishes() {
@@ -109,13 +106,11 @@ private slots:
         const auto shown = [&](const QString& name) {
             return rule.AllowsPart(QUrl::fromLocalFile(folder.System(name)), AccessRule::Part::Frame, page);
         };
-        for (const QString& name : {u"site/b.TXT"_s, u"site/sub/c.pdf"_s, u"site/LIESMICH"_s}) {
+        for (const QString& name : {u"site/b.TXT"_s, u"site/sub/c.pdf"_s, u"site/LIESMICH"_s})
             QVERIFY2(shown(name), qPrintable(name));
-        }
         for (const QString& name : {u"a.txt"_s, u"site/../a.txt"_s, u"site.txt"_s, u"site2/d.txt"_s,
-                                    u"site/x.ini"_s, u"site/link.txt"_s, u"site/sub"_s, u"site/"_s}) {
+                                    u"site/x.ini"_s, u"site/link.txt"_s, u"site/sub"_s, u"site/"_s})
             QVERIFY2(!shown(name), qPrintable(name));
-        }
         // where a script could send what it reads into the network, it gets nothing to read
         rule.browsingAlone = true;
         QVERIFY(!shown(u"site/b.TXT"_s));

