@@ -3,6 +3,7 @@
 
 #include "documents/code_box.h"
 #include "documents/undo.h"
+#include "platform/text.h"
 #include "state/global.h"
 #include "state/neighbours.h"
 
@@ -28,6 +29,10 @@ bool Insert(const QString& text) {
     Undo::PushUndo();
     box->SetSelText(text);
     return true;
+}
+
+void MoveBack(qsizetype characters) {
+    if (CodeBox* box = Box()) Attempt([&] { box->SetSelStart(box->SelStart() - characters); });
 }
 
 } // namespace InsertionPoint

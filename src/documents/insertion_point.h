@@ -11,5 +11,7 @@ namespace InsertionPoint {
 bool Wrap(const QString& before, const QString& after);
 // Writes `text` in place of the selection. Returns as Wrap() does.
 bool Insert(const QString& text);
+// Moves the caret that many characters back, to the place where its user goes on.
+void MoveBack(qsizetype characters);
 
 } // namespace InsertionPoint

@@ -23,6 +23,7 @@ ToolWindow::ToolWindow(ToolKind kind) : QWidget(MainWindow(), Qt::Tool), m_kind(
 void ToolWindow::OnLoad() {
     *m_kind.open = true;
     if (Global::AssistantOpen) Neighbours::RunAnimation(1, m_kind.line);
+    if (m_kind.preset.isEmpty()) adjustSize(); // to what it holds
     ToolPlace::Restore(*this, *m_kind.place, m_kind.keeps, m_kind.preset);
 }
 

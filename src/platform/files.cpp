@@ -148,7 +148,14 @@ std::optional<QByteArray> Read(const QString& path, ReadError* error) {
 std::optional<QString> ReadProgramText(const QString& path) {
     const auto bytes = Read(path);
     if (!bytes) return std::nullopt;
-    return CodePage::FromWindows1252(*bytes);
+    const CodePage::Decoded decoded = CodePage::Decode(*bytes);
+    return decoded.format.mark ? decoded.text : CodePage::FromWindows1252(*bytes);
+}
+
+bool WriteProgramText(const QString& path, const QString& text) {
+    if (CodePage::FitsWindows1252(text)) return Write(path, CodePage::ToWindows1252(text));
+    CodePage::Format format{CodePage::Encoding::Utf8, true};
+    return Write(path, CodePage::Encode(text, format));
 }
 
 bool Write(const QString& path, const QByteArray& bytes) {

@@ -26,8 +26,11 @@ enum class ReadError { None, FileNotFound, PathNotFound, Other };
 // The bytes of a file. On failure nothing, and `error` (if given) says why: the file is missing in an
 // existing folder, its folder is missing, or anything else (a folder, no rights, too large).
 std::optional<QByteArray> Read(const QString& path, ReadError* error = nullptr);
-// The text of one of the program's own files, which are Windows-1252; nothing on failure.
+// The text of one of the program's own files, which are Windows-1252, or UTF-8 where a mark says so; nothing
+// on failure.
 std::optional<QString> ReadProgramText(const QString& path);
+// Writes such a file: in UTF-8 with a mark as soon as a character needs it. Otherwise as Write().
+bool WriteProgramText(const QString& path, const QString& text);
 // Replaces a file by way of a temporary one and a rename. Written means on the disk: it counts as written
 // only when its last byte has been flushed without an error; until then the old file is whole under its name.
 // Keeps the permissions of an existing file and writes through a symbolic link to its target. Returns whether

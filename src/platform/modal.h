@@ -8,8 +8,8 @@
 
 // Shows the shared dialog modally to the main window and ends its life when it is closed.
 template<class Dialog> void ShowModal() {
-    if (Loaded<Dialog>()) return;
-    Dialog& dialog = Shared<Dialog>();
+    Dialog& dialog = Shared<Dialog>(); // which may have been filled before it is shown
+    if (dialog.isVisible()) return;
     QWidget* parent = QApplication::activeWindow();
     // a window that has just ended its life would take the dialog along
     if (!dialog.parentWidget() && parent && parent->isVisible())

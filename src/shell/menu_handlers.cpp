@@ -3,10 +3,13 @@
 #include "documents/code_access.h"
 #include "documents/document_commands.h"
 #include "documents/frm_code.h"
+#include "documents/insertion_point.h"
 #include "documents/new_documents.h"
 #include "documents/recovery.h"
 #include "documents/undo.h"
 #include "editing/edit_commands.h"
+#include "insertion/frm_table.h"
+#include "insertion/insert_texts.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/literals.h"
@@ -93,6 +96,18 @@ void Menu_Tools_Tramlink() {
     Dialogs::Tell(u"Fehler"_s, u"Tramlink konnte nicht gestartet werden."_s, Dialogs::Icon::Critical);
 }
 
+void Menu_Insert_StyleTag() {
+    if (!InsertionPoint::Insert(InsertTexts::StyleTag())) return;
+    InsertionPoint::MoveBack(InsertTexts::BehindStyle);
+    Neighbours::FocusCode();
+}
+
+// The wizard with the draft of a table file in it.
+void Menu_Insert_Table_Open() {
+    Shared<Frm_Table>().LoadFile();
+    Windows::Show(u"Frm_Table");
+}
+
 void OpenAddress(const QString& address) { Dialogs::OpenAddress(address); }
 
 using Handlers = QHash<QString, std::function<void()>>;
@@ -138,6 +153,8 @@ void AddEditHandlers(Handlers& handlers) {
                      {u"Menu_Insert_Time"_s, Menu_Insert_Time},
                      {u"Menu_Insert_FileName"_s, Menu_Insert_FileName},
                      {u"Menu_Insert_CloseTag"_s, Menu_Insert_CloseTag},
+                     {u"Menu_Insert_StyleTag"_s, Menu_Insert_StyleTag},
+                     {u"Menu_Insert_Table_Open"_s, Menu_Insert_Table_Open},
                      {u"Menu_Insert_AutoWord"_s, [] { Neighbours::OpenAutoWord(0); }},
                      {u"Menu_Insert_JavaScript_CurrentVar"_s, [] { Neighbours::InsertCurrentVariable(); }},
                      {u"Menu_Tools_UCaseTags"_s, Menu_Tools_UCaseTags},

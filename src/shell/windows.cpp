@@ -6,6 +6,19 @@
 #include "debugger/frm_debug.h"
 #include "documents/frm_code.h"
 #include "editing/frm_line_zoom.h"
+#include "insertion/frm_characters.h"
+#include "insertion/frm_color.h"
+#include "insertion/frm_default_styles.h"
+#include "insertion/frm_events.h"
+#include "insertion/frm_frames.h"
+#include "insertion/frm_insert_script.h"
+#include "insertion/frm_insert_style.h"
+#include "insertion/frm_kcc.h"
+#include "insertion/frm_list.h"
+#include "insertion/frm_meta_tags.h"
+#include "insertion/frm_table.h"
+#include "insertion/frm_table_options.h"
+#include "insertion/frm_tag_tools.h"
 #include "platform/modal.h"
 #include "preview/frm_browser.h"
 #include "preview/frm_navigation.h"
@@ -38,6 +51,11 @@ template<class Window> constexpr Row Shown(QStringView name, QStringView command
     return {name, command, show, [] { Unload<Window>(); }};
 }
 
+// A small window that stays open beside the document.
+template<class Window> constexpr Row Tool(QStringView name, QStringView command) {
+    return {name, command, [] { Shared<Window>().Present(); }, [] { Unload<Window>(); }};
+}
+
 // A window that others speak of and that is not built yet.
 constexpr Row ToCome(QStringView name) { return {name, {}}; }
 
@@ -60,13 +78,20 @@ constexpr Row AllWindows[] = {
     Modal<Frm_LineZoom>(u"Frm_LineZoom", u"Menu_View_Zoom"),
     Modal<Frm_NewUpdate>(u"Frm_NewUpdate"),
     Modal<Frm_UpdateMessage>(u"Frm_UpdateMessage"),
-    ToCome(u"Frm_TagTools"),
-    ToCome(u"Frm_Color"),
-    ToCome(u"Frm_KCC"),
-    ToCome(u"Frm_Events"),
-    ToCome(u"Frm_Characters"),
+    Tool<Frm_TagTools>(u"Frm_TagTools", u"Menu_View_TagTools"),
+    Tool<Frm_Color>(u"Frm_Color", u"Menu_View_ColorStandard"),
+    Tool<Frm_KCC>(u"Frm_KCC", u"Menu_View_ColorKCC"),
+    Tool<Frm_Events>(u"Frm_Events", u"Menu_View_Events"),
+    Tool<Frm_Characters>(u"Frm_Characters", u"Menu_View_Character"),
+    Modal<Frm_Frames>(u"Frm_Frames", u"Menu_Insert_Frames"),
+    Modal<Frm_Table>(u"Frm_Table", u"Menu_Insert_Table_Insert"),
+    Modal<Frm_TableOptions>(u"Frm_TableOptions"),
+    Modal<Frm_List>(u"Frm_List", u"Menu_Insert_List"),
+    Modal<Frm_MetaTags>(u"Frm_MetaTags", u"Menu_Insert_MetaTags"),
+    Modal<Frm_InsertScript>(u"Frm_InsertScript", u"Menu_Insert_Script"),
+    Modal<Frm_InsertStyle>(u"Frm_InsertStyle", u"Menu_Insert_Style"),
+    Modal<Frm_DefaultStyles>(u"Frm_DefaultStyles", u"Menu_Insert_StyleDefault"),
     ToCome(u"Frm_FormatSubClass"),
-    ToCome(u"Frm_InsertStyle"),
     ToCome(u"Frm_Search"),
     ToCome(u"Frm_UmlCorrection"),
 };

@@ -114,6 +114,18 @@ void LoadEventNames() {
     }
 }
 
+QStringList MetaTagNames() {
+    QStringList names;
+    const auto text = ReadList(u"attribute.lst"_s);
+    if (!text) return names;
+    TokenReader reader(*text);
+    auto token = reader.Next();
+    while (token && *token != u"<m-metatags-") token = reader.Next();
+    if (!token) return names;
+    for (token = reader.Next(); token && *token != BlockEnd; token = reader.Next()) names << *token;
+    return names;
+}
+
 bool IsKnownTag(const QString& name) {
     return Text::UpperCase(Global::KnownTagString).contains(u'-' + Text::UpperCase(name) + u'-');
 }

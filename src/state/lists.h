@@ -15,6 +15,9 @@ bool LoadWordChange();
 // Never fails: a list without events is empty, and of more than 100 events the first 100 are kept.
 void LoadEventNames();
 
+// The names of the meta tags in attribute.lst; those before the end of a file that breaks off.
+QStringList MetaTagNames();
+
 // The message for one of the list files that is missing or broken.
 void TellBroken(const QString& fileName);
 

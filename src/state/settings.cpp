@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "state/settings.h"
 
-#include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
@@ -10,7 +9,6 @@
 #include "state/neighbours.h"
 
 #include <initializer_list>
-#include <optional>
 
 namespace Settings {
 
@@ -29,14 +27,6 @@ struct ToolKeys {
     Global::ToolPos* place;
     int stored; // 2: left and top; 4: width and height as well
 };
-
-// In Windows-1252, or in UTF-8 where the file says so by its mark.
-std::optional<QString> ReadText() {
-    const auto bytes = Files::Read(ReadPath());
-    if (!bytes) return std::nullopt;
-    const CodePage::Decoded decoded = CodePage::Decode(*bytes);
-    return decoded.format.mark ? decoded.text : CodePage::FromWindows1252(*bytes);
-}
 
 // In the order of the file.
 const std::initializer_list<ToolKeys>& Tools() {
@@ -163,7 +153,7 @@ QString EncodeLineBreaks(QString text) { return text.replace(u"\r\n"_s, BreakMar
 QString DecodeLineBreaks(QString text) { return text.replace(BreakMarker, u"\r\n"_s); }
 
 QString GetSetting(const QString& key, const QString& preset) {
-    const auto text = ReadText();
+    const auto text = Files::ReadProgramText(ReadPath());
     if (!text) {
         InstallDefaults();
         return {};
@@ -189,10 +179,7 @@ bool WriteSettings() {
     WriteMainWindow(file);
     WriteGeneral(file);
     WriteTools(file);
-    CodePage::Format format;
-    if (!CodePage::FitsWindows1252(file.Text())) format = {CodePage::Encoding::Utf8, true};
-    return Files::Write(FilePath(), format.mark ? CodePage::Encode(file.Text(), format)
-                                                : CodePage::ToWindows1252(file.Text()));
+    return Files::WriteProgramText(FilePath(), file.Text());
 }
 
 void LoadSettings() {

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "insertion/frm_frames.h"
+
+#include "documents/insertion_point.h"
+#include "insertion/frame_texts.h"
+#include "platform/icons.h"
+#include "platform/literals.h"
+
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+QString TipFor(QStringView kind) {
+    if (kind == u"Left") return u"schmaler Frame links"_s;
+    if (kind == u"Right") return u"schmaler Frame rechts"_s;
+    if (kind == u"Top") return u"flacher Frame oben"_s;
+    if (kind == u"Bottom") return u"flacher Frame unten"_s;
+    if (kind == u"LeftRight") return u"drei Frames nebeneinander"_s;
+    if (kind == u"TopBottom") return u"drei Frames untereinander"_s;
+    if (kind == u"LeftTop") return u"links ein Frame, rechts zwei untereinander"_s;
+    if (kind == u"TopLeft") return u"oben ein Frame, darunter zwei nebeneinander"_s;
+    return u"oben und unten ein Frame, dazwischen drei nebeneinander"_s;
+}
+
+} // namespace
+
+Frm_Frames::Frm_Frames()
+    : ToolDialog(u"Frm_Frames"_s, u"Frames einfügen"_s,
+                 u"Mit diesem Tool können Sie verschiedene Frame - Kombinationen einfügen."_s),
+      m_kind(u"Left"_s) {
+    SetHeading(u"insert_frames", u"Frames einfügen..."_s);
+    auto* Lvw_Frames = new QListWidget;
+    Lvw_Frames->setObjectName(u"Lvw_Frames"_s);
+    Lvw_Frames->setViewMode(QListView::IconMode);
+    Lvw_Frames->setMovement(QListView::Static);
+    Lvw_Frames->setResizeMode(QListView::Adjust);
+    Lvw_Frames->setIconSize({64, 64});
+    Lvw_Frames->setGridSize({92, 80});
+    Lvw_Frames->setMinimumSize(3 * 92 + 8, 3 * 80 + 8);
+    for (const FrameTexts::Layout& layout : FrameTexts::Layouts()) {
+        auto* item = new QListWidgetItem(Icons::Named(layout.icon), QString(), Lvw_Frames);
+        item->setData(Qt::UserRole, layout.kind.toString());
+        item->setData(Qt::AccessibleTextRole, TipFor(layout.kind));
+        item->setToolTip(TipFor(layout.kind));
+    }
+    connect(Lvw_Frames, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
+        if (item) m_kind = item->data(Qt::UserRole).toString();
+    });
+    const auto insert = [this] {
+        InsertionPoint::Insert(FrameTexts::For(m_kind));
+        Leave();
+    };
+    connect(Lvw_Frames, &QListWidget::itemDoubleClicked, this, insert);
+    Content()->addWidget(LabelFor(Lvw_Frames, u"Label2"_s, u"Wählen Sie ein Element aus:"_s));
+    Content()->addWidget(Lvw_Frames, 1);
+    AddControl(0, u"&Einfügen"_s, insert);
+    AddControl(1, u"S&chließen"_s, [this] { Leave(); });
+    Lvw_Frames->setCurrentRow(0); // what is inserted without a choice
+}
