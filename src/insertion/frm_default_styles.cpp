@@ -60,7 +60,10 @@ Frm_DefaultStyles::Frm_DefaultStyles()
     m_insert = AddControl(0, u"&Einfügen"_s, [this] { Insert(); });
     m_insert->setEnabled(false);
     AddControl(1, u"S&chließen"_s, [this] { Leave(); });
-    connect(Lst_Design, &QListWidget::currentRowChanged, this, &Frm_DefaultStyles::Lst_Design_Click);
+    // a selection, not the row that the keyboard stands on
+    connect(Lst_Design, &QListWidget::itemSelectionChanged, this, [this] {
+        Lst_Design_Click(Lst_Design->selectedItems().isEmpty() ? -1 : Lst_Design->currentRow());
+    });
 }
 
 void Frm_DefaultStyles::OnLoad() {

@@ -132,10 +132,9 @@ void Frm_Browser::LoadFinished(bool ok) {
 // Names the page, and what of it was refused: a part inside a frame or an object has no place of its own to
 // say so.
 void Frm_Browser::ShowCaption() {
-    QStringList parts{Caption};
-    for (const QString& part : {m_page->title(), m_page->RefusedText()}) {
-        if (!part.isEmpty()) parts << part;
-    }
+    QStringList parts{Caption, m_page->title()};
+    if (m_page->ShownAddress() == m_page->url()) parts << m_page->RefusedText(); // a notice tells it itself
+    parts.removeAll(QString());
     SetCaption(parts.join(u" - "_s));
 }
 

@@ -50,17 +50,12 @@ private slots:
         ScriptedDialogs dialogs;
         const Driver::RunningProgram program;
         const QStringList toCome{
-            u"Menu_File_Print"_s,           u"Menu_File_ProjectBackUp"_s,  u"Menu_File_UploadAssistant"_s,
-            u"Menu_Edit_Search"_s,          u"Menu_View_SyntaxPreView"_s,  u"Menu_View_ColorKCC"_s,
-            u"Menu_View_ColorStandard"_s,   u"Menu_View_TagTools"_s,       u"Menu_View_Character"_s,
-            u"Menu_View_Events"_s,          u"Menu_View_FormatSubClass"_s, u"Menu_Insert_StyleTag"_s,
-            u"Menu_Insert_Style"_s,         u"Menu_Insert_StyleDefault"_s, u"Menu_Insert_Table_Insert"_s,
-            u"Menu_Insert_Table_Open"_s,    u"Menu_Insert_Script"_s,       u"Menu_Insert_List"_s,
-            u"Menu_Insert_MetaTags"_s,      u"Menu_Insert_Frames"_s,       u"Menu_Insert_PageArtBox"_s,
-            u"Menu_Project_Jump"_s,         u"Menu_Project_Set"_s,         u"Menu_Tools_Uml"_s,
-            u"Menu_Tools_DeleteComment"_s,  u"Menu_Tools_MadCode"_s,       u"Menu_Tools_SpellingCheck"_s,
-            u"Menu_Tools_SpeedCheck"_s,     u"Menu_Tools_Connection"_s,    u"x_Menu_Tools_Debug"_s,
-            u"Menu_Menu_Code_Attribute_0"_s};
+            u"Menu_File_Print"_s,          u"Menu_File_ProjectBackUp"_s,   u"Menu_File_UploadAssistant"_s,
+            u"Menu_Edit_Search"_s,         u"Menu_View_SyntaxPreView"_s,   u"Menu_View_FormatSubClass"_s,
+            u"Menu_Insert_PageArtBox"_s,   u"Menu_Project_Jump"_s,         u"Menu_Project_Set"_s,
+            u"Menu_Tools_Uml"_s,           u"Menu_Tools_DeleteComment"_s,  u"Menu_Tools_MadCode"_s,
+            u"Menu_Tools_SpellingCheck"_s, u"Menu_Tools_SpeedCheck"_s,     u"Menu_Tools_Connection"_s,
+            u"x_Menu_Tools_Debug"_s,       u"Menu_Menu_Code_Attribute_0"_s};
         for (const Commands::MenuRow& row : Commands::MenuTree()) {
             if (row.flags & (Commands::Submenu | Commands::Separator)) continue;
             const QString name = row.name.toString();
