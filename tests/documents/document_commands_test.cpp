@@ -27,6 +27,7 @@ class DocumentCommands : public QObject {
     QHash<int, QString> m_panels;
     QString m_caption;
     QStringList m_calls;
+    QStringList m_gone; // windows that were unloaded
 
     const QString Unsaved =
         QStringLiteral("Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?");
@@ -57,6 +58,7 @@ private slots:
             return Global::CodeWindowOpen ? m_box.get() : nullptr;
         });
         Windows::StandIn({{}, [this](const QString& name) {
+                              m_gone << name;
                               if (name != u"Frm_Code" || !Global::CodeWindowOpen) return;
                               Global::HeldSource = m_box->Text();
                               Global::CodeWindowOpen = false;
@@ -373,6 +375,7 @@ private slots:
     void createsEachKind() {
         OpenFile(m_folder->Write(u"alt.htm"_s, "alt"));
         m_calls.clear();
+        m_gone.clear();
         Global::AutoDebug = true;
         void (*create[])() = {CreateNewHTMLFile, CreateNewXHTMLFile, CreateNewWMLFile, CreateNewJavaScript,
                               CreateNewTextFile};
@@ -384,6 +387,7 @@ private slots:
         QCOMPARE(m_caption, u"Sorvane HTML Editor 3.0 [%1]"_s.arg(caption));
         QTEST(Global::DocChanged, "changed");
         QVERIFY(Global::DocOpen && Global::CurrentFile.isEmpty() && Global::HeldSource.isEmpty());
+        QVERIFY(m_gone.contains(u"Frm_Browser"_s) && m_gone.contains(u"Frm_Welcome"_s));
         QCOMPARE(m_calls.contains(u"debugger"_s), Global::DocType != u"Text"); // it needs no helpers
     }
 

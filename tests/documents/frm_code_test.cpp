@@ -125,6 +125,17 @@ private slots:
         for (int times = 0; times < 2; ++times) QTest::mouseClick(code.TextBox->viewport(), Qt::LeftButton);
         QCOMPARE(checks, 1);
     }
+
+    void takesACopyBeforeEachKey() {
+        Frm_Code& code = Shared<Frm_Code>();
+        code.BringToFront();
+        code.TextBox->SetText(u"alt"_s);
+        Undo::UndoClear();
+        QTest::keyClick(code.TextBox, Qt::Key_X);
+        QTest::keyClick(code.TextBox, Qt::Key_Right); // also for keys that change nothing
+        QCOMPARE(Undo::UndoRing(1), u"xalt"_s);
+        QCOMPARE(Undo::UndoRing(3), u"alt"_s);
+    }
 };
 
 REGISTER_TEST(FrmCode);

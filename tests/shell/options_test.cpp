@@ -143,10 +143,14 @@ private slots:
         Line(u"Txt_LinkDeep"_s)->setText(u"9"_s);
         Line(u"Txt_DebugAccuracy"_s)->setText(u"9"_s);
         Leave();
+        QCOMPARE(Global::DebugAccuracy, 80);
+        Global::DebugAccuracy = 101; // shows as the whole
+        Open();
+        QCOMPARE(Line(u"Txt_DebugAccuracy"_s)->text(), u"100"_s);
+        Leave();
         QVERIFY(!Loaded<Frm_Options>());
         for (const Truth& truth : Truths()) QVERIFY(!truth.Value());
         QCOMPARE(Global::MaxLinkDeep, 3);
-        QCOMPARE(Global::DebugAccuracy, 80);
     }
 
     void readsNumbers_data() {

@@ -219,6 +219,17 @@ private slots:
         QFETCH(QString, text);
         QCOMPARE(UpdateLog::ReadableText(file), text);
     }
+
+    void theCheckOfTheStartBeepsAfterItsTime() {
+        const ProgramFolder folder(ProgramFolder::Content::Empty);
+        ScriptedDialogs dialogs;
+        UpdateCheck::CheckForUpdate(Addresses::UpdateCheck); // a placeholder: no wait, no beep, no splash
+        QVERIFY(!Loaded<Frm_Load>());
+        Server silent({}, 1, false);
+        dialogs.ExpectBeep();
+        UpdateCheck::CheckForUpdate(silent.Address());
+        Unload<Frm_Load>();
+    }
 };
 
 REGISTER_TEST_AS(UpdateCheck, UpdateCheckTest);
