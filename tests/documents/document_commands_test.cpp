@@ -2,19 +2,14 @@
 #include "documents/document_commands.h"
 
 #include "documents/document_file.h"
+#include "documents/new_documents.h"
 #include "documents/recovery.h"
+#include "documents/templates.h"
 #include "documents/text_buffer.h"
 #include "documents/undo.h"
 #include "platform/files.h"
-#include "platform/literals.h"
-#include "state/commands.h"
-#include "state/global.h"
 #include "state/lists.h"
-#include "state/neighbours.h"
-#include "state/windows.h"
-#include "support/program_folder.h"
-#include "support/scripted_dialogs.h"
-#include "support/test_registry.h"
+#include "support/test.h"
 
 #include <QDir>
 #include <QHash>
@@ -27,10 +22,12 @@ class DocumentCommands : public QObject {
     Q_OBJECT
 
     std::unique_ptr<ProgramFolder> m_folder;
+    std::unique_ptr<ScriptedDialogs> m_dialogs;
     std::unique_ptr<TextBuffer> m_box;
     QHash<int, QString> m_panels;
     QString m_caption;
     QStringList m_calls;
+    QStringList m_gone; // windows that were unloaded
 
     const QString Unsaved =
         QStringLiteral("Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?");
@@ -44,6 +41,7 @@ private slots:
     void init() {
         m_folder = std::make_unique<ProgramFolder>();
         QVERIFY(Lists::LoadTagList());
+        m_dialogs = std::make_unique<ScriptedDialogs>();
         m_box = std::make_unique<TextBuffer>();
         m_box->change = [] {
             Undo::PushUndo();
@@ -60,6 +58,7 @@ private slots:
             return Global::CodeWindowOpen ? m_box.get() : nullptr;
         });
         Windows::StandIn({{}, [this](const QString& name) {
+                              m_gone << name;
                               if (name != u"Frm_Code" || !Global::CodeWindowOpen) return;
                               Global::HeldSource = m_box->Text();
                               Global::CodeWindowOpen = false;
@@ -75,35 +74,23 @@ private slots:
         Neighbours::RunAnimation.AnsweredBy([this](int, const QString& text) { m_calls << text; });
     }
     void cleanup() {
+        m_dialogs.reset();
         m_folder.reset();
-        Global::CodeWindowOpen = Global::DebuggerOpen = Global::ProjectWindowOpen = Global::AssistantOpen =
-            false;
     }
 
     void tellsTypesOnOpening_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("panel");
-        QTest::addColumn<QString>("saved"); // type after saving
-        const auto row = [](const char* title, const QString& name, const QByteArray& content,
-                            const QString& type, const QString& panel, const QString& saved) {
-            QTest::newRow(title) << name << content << type << panel << saved;
-        };
-        row("HTML", u"a.htm"_s, "<!doctype html public \"-//w3c//dtd html 4.01 //en\">", u"HTML"_s, u"HTML"_s,
-            u"HTML"_s);
-        row("XHTML", u"a.htm"_s, "-//W3C//DTD XHTML 1.0", u"XHTML"_s, u"XHTML"_s, u"XHTML"_s);
-        row("order of the list", u"a.htm"_s, "-//W3C//DTD XHTML <!-- -//W3C//DTD HTML -->", u"HTML"_s,
-            u"HTML"_s, u"HTML"_s);
-        row("WML", u"a.txt"_s, "-//WAPFORUM//DTD WML 1.1", u"WML"_s, u"WAP"_s, u"WML"_s);
-        row("wml without doctype", u"a.wml"_s, "<wml>", u"Text"_s, u"Text"_s, u"WML"_s);
-        row("script", u"A.JS"_s, "var a;", u"JS"_s, u"JavaScript"_s, u"Text"_s);
-        row("Basic", u"a.vbs"_s, "Dim a", u"VBS"_s, u"VBScript"_s, u"Text"_s);
-        row("style sheet", u"a.css"_s, "p {}", u"CSS"_s, u"StyleSheet"_s, u"Text"_s);
-        row("text", u"a.txt"_s, "x", u"Text"_s, u"Text"_s, u"Text"_s);
-        row("page without doctype", u"a.htm"_s, "<html>", u"Text"_s, u"Text"_s, u"Text"_s);
-        row("no extension", u"lies.mich/a"_s, "x", u"Text"_s, u"Text"_s, u"Text"_s);
-        row("empty", u"a.htm"_s, "", u"Text"_s, u"Text"_s, u"Text"_s);
+        const auto row = Columns<QString, QByteArray, QString, QString, QString>("name", "content", "type",
+                                                                                 "panel", "saved");
+        row("HTML", "a.htm", "<!doctype html public \"-//w3c//dtd html 4.01 //en\">", "HTML", "HTML", "HTML");
+        row("XHTML", "a.htm", "-//W3C//DTD XHTML 1.0", "XHTML", "XHTML", "XHTML");
+        row("order of the list", "a.htm", "-//W3C//DTD XHTML -//W3C//DTD HTML", "HTML", "HTML", "HTML");
+        row("WML", "a.txt", "-//WAPFORUM//DTD WML 1.1", "WML", "WAP", "WML");
+        row("wml without doctype", "a.wml", "<wml>", "Text", "Text", "WML");
+        row("script", "A.JS", "var a;", "JS", "JavaScript", "Text");
+        row("style sheet", "a.css", "p {}", "CSS", "StyleSheet", "Text");
+        row("page without doctype", "a.htm", "<html>", "Text", "Text", "Text");
+        row("no extension", "lies.mich/a", "x", "Text", "Text", "Text");
+        row("empty", "a.htm", "", "Text", "Text", "Text");
     }
     void tellsTypesOnOpening() {
         QFETCH(QString, name);
@@ -120,11 +107,7 @@ private slots:
     }
 
     void keepsBytes_data() {
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QByteArray>("after");
-        const auto row = [](const char* title, const QByteArray& before, const QByteArray& after) {
-            QTest::newRow(title) << before << after;
-        };
+        const auto row = Columns<QByteArray, QByteArray>("before", "after");
         row("CR LF", "a\r\nb\r\n", "a\r\nb\r\n");
         row("LF", "a\nb\n", "a\nb\n");
         row("no final line end", "a\r\nb", "a\r\nb\r\n");
@@ -134,22 +117,11 @@ private slots:
         row("last line of blanks goes alone", "a\r\n\r\n ", "a\r\n\r\n");
         row("UTF-16", QByteArray("\xFE\xFF\0a\0\r\0\n", 8), QByteArray("\xFE\xFF\0a\0\r\0\n", 8));
         row("no-break space at the end stays", "a\r\n\xA0", "a\r\n\xA0\r\n");
-        row("umlauts", "\xE4\xF6\r\n", "\xE4\xF6\r\n");
         row("UTF-8", "\xC3\xA4\xF0\x9F\x98\x80\n", "\xC3\xA4\xF0\x9F\x98\x80\n");
-        row("mark",
-            "\xEF\xBB\xBF"
-            "a\r\n",
-            "\xEF\xBB\xBF"
-            "a\r\n");
+        row("mark", "\xEF\xBB\xBFx\r\n", "\xEF\xBB\xBFx\r\n");
         row("undefined bytes", "\x81\x8D\x8F\x90\x9D\r\n", "\x81\x8D\x8F\x90\x9D\r\n");
         row("mixed line ends", "a\nb\r\nc\rd", "a\r\nb\r\nc\r\nd\r\n");
-        row("separators",
-            "a\xE2\x80\xA8"
-            "b\xE2\x80\xA9"
-            "c\r\n",
-            "a\xE2\x80\xA8"
-            "b\xE2\x80\xA9"
-            "c\r\n");
+        row("separators", "x\xE2\x80\xA8y\xE2\x80\xA9z\r\n", "x\xE2\x80\xA8y\xE2\x80\xA9z\r\n");
         row("empty", "", "\r\n");
     }
     void keepsBytes() {
@@ -165,10 +137,10 @@ private slots:
         Commands::SetChecked(u"Menu_Tools_Option_2"_s, true);
         OpenFile(m_folder->Write(u"a.htm"_s, "<P>X</P>\r\n"));
         Menu_File_Save_Click();
-        QCOMPARE(m_folder->Read(u"a.htm"_s), QByteArray("<p>X</p>\r\n"));
-        QCOMPARE(m_box->Text(), u"<P>X</P>\r\n"_s);
         SaveBackUp();
+        QCOMPARE(m_folder->Read(u"a.htm"_s), QByteArray("<p>X</p>\r\n"));
         QCOMPARE(m_folder->Read(u"a.htm.bak"_s), QByteArray("<P>X</P>\r\n"));
+        QCOMPARE(m_box->Text(), u"<P>X</P>\r\n"_s);
     }
 
     void keepsTabsOutOfWml() {
@@ -184,35 +156,32 @@ private slots:
     }
 
     void opensPictures() {
-        const QByteArray picture =
-            QByteArray::fromHex("47494638396101000100800000ffffff00000021f9040a0d002c");
-        OpenFile(m_folder->Write(u"X.GIF"_s, picture));
-        QCOMPARE(Global::DocType, u"IMG"_s);
-        QCOMPARE(m_panels.value(1), u"Bild"_s);
-        QVERIFY(Global::PicturePreview && !Global::CodeWindowOpen && Global::DocOpen);
-        QCOMPARE(m_calls, QStringList{u"browse"_s});
-        // every byte but the line end behind it, however often and whatever the options
         Commands::SetChecked(u"Menu_Tools_Option_2"_s, true);
-        for (int times = 0; times < 3; ++times) Menu_File_Save_Click();
-        QCOMPARE(m_folder->Read(u"X.GIF"_s), picture + "\r\n");
-        const QByteArray endsLikeText = "GIF<B>\n\r\n\r\n \0";
-        OpenFile(m_folder->Write(u"y.gif"_s, endsLikeText));
-        for (int times = 0; times < 3; ++times) Menu_File_Save_Click();
-        QCOMPARE(m_folder->Read(u"y.gif"_s), endsLikeText + "\r\n");
+        for (const QByteArray& picture :
+             {QByteArray::fromHex("47494638396101000100800000ffffff21f9040a0d002c"),
+              QByteArray("GIF<B>\n\r\n\r\n \0", 13)}) {
+            m_calls.clear();
+            OpenFile(m_folder->Write(u"X.GIF"_s, picture));
+            QCOMPARE(Global::DocType, u"IMG"_s);
+            QCOMPARE(m_panels.value(1), u"Bild"_s);
+            QVERIFY(Global::PicturePreview && !Global::CodeWindowOpen && Global::DocOpen);
+            QCOMPARE(m_calls, QStringList{u"browse"_s});
+            // every byte but the line end behind it, however often and whatever the options
+            for (int times = 0; times < 3; ++times) Menu_File_Save_Click();
+            QCOMPARE(m_folder->Read(u"X.GIF"_s), picture + "\r\n");
+        }
         QVERIFY(!Neighbours::TheCodeBox()); // no window for the bytes of a picture
     }
 
     void previewsPagesOnly() {
         Global::AutoPreView = true;
         OpenFile(m_folder->Write(u"a.html"_s, "x"));
-        QCOMPARE(m_calls, QStringList{u"browse"_s});
         OpenFile(m_folder->Write(u"a.css"_s, "x"));
-        QCOMPARE(m_calls.size(), 1);
+        QCOMPARE(m_calls, QStringList{u"browse"_s});
         bool preview = true;
         Global::AutoPreView = false;
         OpenFile(m_folder->Path(u"a.html"_s), preview);
-        QVERIFY(!preview);
-        QCOMPARE(m_calls.size(), 1);
+        QVERIFY(!preview && m_calls.size() == 1);
     }
 
     void refreshesTheOtherWindows() {
@@ -228,11 +197,11 @@ private slots:
 
     // The name stays, but no text goes under it: neither nothing nor that of the page before.
     void writesNothingBehindAFailedOpening_data() {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("missing") << u"fehlt.htm"_s;
-        QTest::newRow("folder") << u"ordner"_s;
-        QTest::newRow("missing folder") << u"weg/a.htm"_s;
-        QTest::newRow("missing picture") << u"fehlt.gif"_s;
+        const auto row = Columns<QString>("name");
+        row("missing", "fehlt.htm");
+        row("folder", "ordner");
+        row("missing folder", "weg/a.htm");
+        row("missing picture", "fehlt.gif");
     }
     void writesNothingBehindAFailedOpening() {
         QFETCH(QString, name);
@@ -241,8 +210,7 @@ private slots:
         m_box->SetSelText(u"mein "_s);
         const QString caption = m_caption;
         const QStringList before = QDir(m_folder->System(u"."_s)).entryList(QDir::AllEntries);
-        ScriptedDialogs dialogs;
-        dialogs.ExpectMessage(
+        m_dialogs->ExpectMessage(
             u"Fehler"_s,
             u"Fehler beim Laden der Datei. Stellen Sie sicher, dass die Datei existiert und nicht "
             "geschützt ist."_s,
@@ -261,18 +229,16 @@ private slots:
         QVERIFY(Neighbours::TheCodeBox() && Global::HasTextDocument());
     }
 
+    // For a document without a name: what is saved, and whether dropping a file and the menu go on to open.
     void asksBeforeTextIsLost_data() {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<QString>("savePath"); // for the unnamed document; empty: cancelled
-        QTest::addColumn<bool>("opens");       // on dropping a file
-        QTest::addColumn<bool>("asksFile");    // on opening by the menu
-        QTest::newRow("cancel") << int(Answer::Cancel) << QString() << false << false;
-        QTest::newRow("no") << int(Answer::No) << QString() << true << true;
-        QTest::newRow("yes") << int(Answer::Yes) << u"neu.htm"_s << true << true;
-        QTest::newRow("yes, but not saved") << int(Answer::Yes) << QString() << false << true;
+        const auto row = Columns<Answer, QString, bool, bool>("answer", "savePath", "opens", "asksFile");
+        row("cancel", Answer::Cancel, "", false, false);
+        row("no", Answer::No, "", true, true);
+        row("yes", Answer::Yes, "neu.htm", true, true);
+        row("yes, but not saved", Answer::Yes, "", false, true);
     }
     void asksBeforeTextIsLost() {
-        QFETCH(int, answer);
+        QFETCH(Answer, answer);
         QFETCH(QString, savePath);
         QFETCH(bool, opens);
         QFETCH(bool, asksFile);
@@ -281,23 +247,21 @@ private slots:
             Global::CurrentFile.clear();
             Type(u"wertvoll"_s);
             QFile::remove(m_folder->System(u"neu.htm"_s));
-            ScriptedDialogs dialogs;
-            dialogs.ExpectMessage(dropped ? u"Schließen"_s : u"Datei öffnen"_s, Unsaved, Answer(answer),
-                                  Dialogs::Icon::Question);
+            m_dialogs->ExpectMessage(dropped ? u"Schließen"_s : u"Datei öffnen"_s, Unsaved, answer,
+                                     Dialogs::Icon::Question);
             const QString target = savePath.isEmpty() ? QString() : m_folder->Path(savePath);
-            if (Answer(answer) == Answer::Yes) dialogs.ExpectSaveFile(u"Speichern unter"_s, target);
+            if (answer == Answer::Yes) m_dialogs->ExpectSaveFile(u"Speichern unter"_s, target);
             if (dropped) {
                 DropFile(other);
                 QCOMPARE(m_box->Text(), opens ? u"anderer"_s : u"wertvoll"_s);
             } else {
-                if (asksFile) dialogs.ExpectOpenFile(u"Öffnen"_s, QString());
+                if (asksFile) m_dialogs->ExpectOpenFile(u"Öffnen"_s, QString());
                 Menu_File_Open_Click();
                 QCOMPARE(m_box->Text(), u"wertvoll"_s); // the file dialog was cancelled
             }
-            QVERIFY(dialogs.Finished());
+            QVERIFY(m_dialogs->Finished());
             // a text that is given up although it was to be saved leaves a copy
-            QCOMPARE(m_folder->Has(u"bckup.tmp"_s),
-                     Answer(answer) == Answer::Yes && savePath.isEmpty() && !dropped);
+            QCOMPARE(m_folder->Has(u"bckup.tmp"_s), answer == Answer::Yes && savePath.isEmpty() && !dropped);
             if (!savePath.isEmpty()) QCOMPARE(m_folder->Read(savePath), QByteArray("wertvoll\r\n"));
         }
     }
@@ -305,30 +269,24 @@ private slots:
     void asksBeforeOverwriting() {
         m_folder->Write(u"da.htm"_s, "alt");
         Type(u"neu"_s);
-        const QString question =
-            u"Eine Datei mit diesem Namen existiert bereits.\rSoll sie überschrieben werden?"_s;
-        {
-            ScriptedDialogs dialogs;
-            dialogs.ExpectSaveFile(u"Speichern unter"_s, m_folder->Path(u"da.htm"_s));
-            dialogs.ExpectMessage(u"Speichern"_s, question, Answer::No, Dialogs::Icon::Question);
+        for (const bool overwrite : {false, true}) {
+            m_dialogs->ExpectSaveFile(u"Speichern unter"_s, m_folder->Path(u"da.htm"_s));
+            m_dialogs->ExpectMessage(
+                u"Speichern"_s,
+                u"Eine Datei mit diesem Namen existiert bereits.\rSoll sie überschrieben werden?"_s,
+                overwrite ? Answer::Yes : Answer::No, Dialogs::Icon::Question);
             Menu_File_SaveAs();
-            QVERIFY(dialogs.lastMessage.preset == Answer::No);
+            QVERIFY(m_dialogs->lastMessage.preset == Answer::No);
+            QCOMPARE(m_folder->Read(u"da.htm"_s), QByteArray(overwrite ? "neu\r\n" : "alt"));
+            QVERIFY(Global::SaveSucceeded == overwrite && Global::DocChanged != overwrite);
+            QVERIFY(Global::CurrentFile.isEmpty() != overwrite);
         }
-        QCOMPARE(m_folder->Read(u"da.htm"_s), QByteArray("alt"));
-        QVERIFY(!Global::SaveSucceeded && Global::CurrentFile.isEmpty());
-        ScriptedDialogs dialogs;
-        dialogs.ExpectSaveFile(u"Speichern unter"_s, m_folder->Path(u"da.htm"_s));
-        dialogs.ExpectMessage(u"Speichern"_s, question, Answer::Yes);
-        Menu_File_SaveAs();
-        QCOMPARE(m_folder->Read(u"da.htm"_s), QByteArray("neu\r\n"));
-        QVERIFY(Global::SaveSucceeded && !Global::DocChanged);
     }
 
     void tellsAFailedSave() {
         Type(u"wertvoll"_s);
         Global::CurrentFile = m_folder->Path(u"weg\\a.htm"_s);
-        ScriptedDialogs dialogs;
-        dialogs.ExpectMessage(
+        m_dialogs->ExpectMessage(
             u"Fehler"_s,
             u"Fehler beim Speichern der Datei. Stellen Sie sicher, dass die Datei nicht schreibgeschützt ist."_s,
             Answer::Ok, Dialogs::Icon::Critical);
@@ -340,18 +298,11 @@ private slots:
     void importsAtTheCaret() {
         Type(u"<p></p>"_s);
         m_box->SetSelStart(3);
-        const QString path = m_folder->Write(u"text.txt"_s, "eins\nzw\xF6lf");
-        {
-            ScriptedDialogs dialogs;
-            dialogs.ExpectOpenFile(u"Importieren"_s, path);
-            Menu_File_Import();
-        }
-        QCOMPARE(m_box->Text(), u"<p>eins\r\nzwölf\r\n</p>"_s);
-        QCOMPARE(Global::DialogFile, path);
-        ScriptedDialogs dialogs;
-        dialogs.ExpectOpenFile(u"Importieren"_s, m_folder->Path(u"fehlt.txt"_s));
-        dialogs.ExpectMessage(u"Fehler"_s, u"Fehler beim Laden der Datei."_s, Answer::Ok,
-                              Dialogs::Icon::Critical);
+        m_dialogs->ExpectOpenFile(u"Importieren"_s, m_folder->Write(u"text.txt"_s, "eins\nzw\xF6lf"));
+        Menu_File_Import();
+        m_dialogs->ExpectOpenFile(u"Importieren"_s, m_folder->Path(u"fehlt.txt"_s));
+        m_dialogs->ExpectMessage(u"Fehler"_s, u"Fehler beim Laden der Datei."_s, Answer::Ok,
+                                 Dialogs::Icon::Critical);
         Menu_File_Import();
         QCOMPARE(m_box->Text(), u"<p>eins\r\nzwölf\r\n</p>"_s);
     }
@@ -362,13 +313,11 @@ private slots:
         QVERIFY(Global::CloseSucceeded && !Global::DocOpen && Global::CurrentFile.isEmpty());
         OpenFile(m_folder->Path(u"a.htm"_s));
         m_box->SetSelText(u"y"_s);
-        ScriptedDialogs dialogs;
-        dialogs.ExpectMessage(u"Schließen"_s, Unsaved, Answer::Cancel);
-        Menu_File_Close();
-        QVERIFY(!Global::CloseSucceeded && Global::DocOpen);
-        dialogs.ExpectMessage(u"Schließen"_s, Unsaved, Answer::Yes);
-        Menu_File_Close();
-        QVERIFY(Global::CloseSucceeded);
+        for (const Answer answer : {Answer::Cancel, Answer::Yes}) {
+            m_dialogs->ExpectMessage(u"Schließen"_s, Unsaved, answer);
+            Menu_File_Close();
+            QVERIFY(Global::CloseSucceeded == (answer == Answer::Yes));
+        }
         QCOMPARE(m_folder->Read(u"a.htm"_s), QByteArray("yx\r\n"));
     }
 
@@ -377,20 +326,16 @@ private slots:
         Type(u"-//W3C//DTD XHTML\r\nŁódź"_s);
         QVERIFY(!Recovery::Exists() && Recovery::Write() && offered());
         ForgetText();
-        {
-            ScriptedDialogs dialogs; // neither answer to the text that is open takes the copy away
-            Type(u"anderer"_s);
-            dialogs.ExpectMessage(u"Datei öffnen"_s, Unsaved, Answer::Cancel);
-            Recovery::Menu_File_RestoreFile();
-            QCOMPARE(m_box->Text(), u"anderer"_s);
-            dialogs.ExpectMessage(u"Datei öffnen"_s, Unsaved, Answer::No);
-            Recovery::Menu_File_RestoreFile();
-        }
+        Type(u"anderer"_s); // neither answer to the text that is open takes the copy away
+        m_dialogs->ExpectMessage(u"Datei öffnen"_s, Unsaved, Answer::Cancel);
+        Recovery::Menu_File_RestoreFile();
+        QCOMPARE(m_box->Text(), u"anderer"_s);
+        m_dialogs->ExpectMessage(u"Datei öffnen"_s, Unsaved, Answer::No);
+        Recovery::Menu_File_RestoreFile();
         QCOMPARE(m_box->Text(), u"-//W3C//DTD XHTML\r\nŁódź\r\n"_s);
         QCOMPARE(Global::DocType, u"XHTML"_s);
         QVERIFY(Global::DocChanged && Recovery::Exists());
-        ScriptedDialogs dialogs;
-        dialogs.ExpectSaveFile(u"Speichern unter"_s, m_folder->Path(u"neu.htm"_s));
+        m_dialogs->ExpectSaveFile(u"Speichern unter"_s, m_folder->Path(u"neu.htm"_s));
         Menu_File_Save_Click(); // now its text is safe
         QVERIFY(!Recovery::Exists() && !offered());
     }
@@ -398,24 +343,66 @@ private slots:
     void dropsTheRecoveryCopyThatIsDeclined() {
         Type(u"x"_s);
         QVERIFY(Recovery::Write());
-        ScriptedDialogs dialogs;
-        dialogs.ExpectMessage(u"Schließen"_s, Unsaved, Answer::No);
+        m_dialogs->ExpectMessage(u"Schließen"_s, Unsaved, Answer::No);
         Menu_File_Close();
         QVERIFY(!Recovery::Exists());
         m_folder->Write(u"bckup.tmp"_s, "von gestern");
         Type(u"y"_s);
-        dialogs.ExpectMessage(u"Schließen"_s, Unsaved, Answer::No);
+        m_dialogs->ExpectMessage(u"Schließen"_s, Unsaved, Answer::No);
         Menu_File_Close();
         QVERIFY(Recovery::Exists()); // the copy of another text has not been asked about
     }
 
-    void backsUpAnUnnamedDocument() {
-        QDir::setCurrent(m_folder->System(u"."_s));
-        m_box->SetText(u"x"_s);
-        Global::CodeWindowOpen = true;
-        SaveBackUp();
-        QCOMPARE(m_folder->Read(u".bak"_s), QByteArray("x\r\n"));
-        QDir::setCurrent(QDir::rootPath());
+    void writesTemplates() {
+        QVERIFY(Templates::Html({u"Verein"_s, {}, {}, {}}).contains(u"<title>Verein</title>"));
+        const auto type = [](const QString& page) { return DocumentFile::TypeByMarker(page); };
+        QCOMPARE(type(Templates::Html()), u"HTML"_s); // a page is known again by its own doctype
+        QCOMPARE(type(Templates::Xhtml()), u"XHTML"_s);
+        QCOMPARE(type(Templates::Wml()), u"WML"_s);
+        QVERIFY(!Templates::Wml().contains(u'\t'));
+        QVERIFY(Templates::Wml().endsWith(u"\r\n") && !Templates::Html().endsWith(u'\n'));
+    }
+
+    void createsEachKind_data() {
+        const auto row =
+            Columns<int, QString, QString, QString, bool>("kind", "text", "type", "caption", "changed");
+        row("html", 0, Templates::Html(), "HTML", "HTML", true);
+        row("xhtml", 1, Templates::Xhtml(), "XHTML", "XHTML", true);
+        row("wml", 2, Templates::Wml(), "WML", "WML", true);
+        row("script", 3, "", "JS", "JavaScript", true);
+        row("text", 4, "", "Text", "Textdatei", false);
+    }
+    void createsEachKind() {
+        OpenFile(m_folder->Write(u"alt.htm"_s, "alt"));
+        m_calls.clear();
+        m_gone.clear();
+        Global::AutoDebug = true;
+        void (*create[])() = {CreateNewHTMLFile, CreateNewXHTMLFile, CreateNewWMLFile, CreateNewJavaScript,
+                              CreateNewTextFile};
+        QFETCH(int, kind);
+        create[kind]();
+        QTEST(m_box->Text(), "text");
+        QTEST(Global::DocType, "type");
+        QFETCH(QString, caption);
+        QCOMPARE(m_caption, u"Sorvane HTML Editor 3.0 [%1]"_s.arg(caption));
+        QTEST(Global::DocChanged, "changed");
+        QVERIFY(Global::DocOpen && Global::CurrentFile.isEmpty() && Global::HeldSource.isEmpty());
+        QVERIFY(m_gone.contains(u"Frm_Browser"_s) && m_gone.contains(u"Frm_Welcome"_s));
+        QCOMPARE(m_calls.contains(u"debugger"_s), Global::DocType != u"Text"); // it needs no helpers
+    }
+
+    void asksBeforeReplacing() {
+        Type(u"wertvoll"_s);
+        m_dialogs->ExpectMessage(u"Neue Datei"_s, Unsaved, Answer::Cancel, Dialogs::Icon::Question);
+        Menu_File_NewPage();
+        m_dialogs->ExpectMessage(u"Neue Datei"_s, Unsaved, Answer::Yes);
+        m_dialogs->ExpectSaveFile(u"Speichern unter"_s, {});
+        Menu_File_NewXHTMLFile();
+        QCOMPARE(m_box->Text(), u"wertvoll"_s);
+        m_dialogs->ExpectMessage(u"Neue Datei"_s, Unsaved, Answer::No);
+        Menu_File_NewFile();
+        QCOMPARE(m_box->Text(), QString());
+        Menu_File_NewFile(); // nothing to lose, no question
     }
 };
 

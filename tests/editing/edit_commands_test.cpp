@@ -3,14 +3,9 @@
 
 #include "documents/text_buffer.h"
 #include "documents/undo.h"
+#include "editing/line_zoom.h"
 #include "platform/clipboard.h"
-#include "platform/literals.h"
-#include "state/global.h"
-#include "state/lists.h"
-#include "state/neighbours.h"
-#include "support/program_folder.h"
-#include "support/scripted_dialogs.h"
-#include "support/test_registry.h"
+#include "support/test.h"
 
 #include <QLocale>
 
@@ -39,33 +34,28 @@ private slots:
     void cleanup() { m_folder.reset(); }
 
     void changesTheSelection_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("command");
-        QTest::addColumn<QString>("result");
-        QTest::newRow("upper") << u"straße ü"_s << 0 << u"STRAßE Ü"_s;
-        QTest::newRow("upper stays in the code page") << u"µƒÿ"_s << 0 << u"µƒŸ"_s;
-        QTest::newRow("upper beyond the code page") << u"čaj"_s << 0 << u"ČAJ"_s;
-        QTest::newRow("lower") << u"ÄB"_s << 1 << u"äb"_s;
-        QTest::newRow("turn") << u"abc"_s << 2 << u"cba"_s;
-        QTest::newRow("turn lines") << u"ab\r\ncd"_s << 2 << u"dc\r\nba"_s;
-        QTest::newRow("turn empty lines") << u"a\r\n\r\nb"_s << 2 << u"b\r\n\r\na"_s;
-        QTest::newRow("turn a colour") << u"#12AB34"_s << 2 << u"43BA21#"_s;
-        QTest::newRow("turn a smiley") << u"a\U0001F600b"_s << 2 << u"b\U0001F600a"_s;
-        QTest::newRow("hex") << u"255"_s << 3 << u"FF"_s;
-        QTest::newRow("hex of a length") << u"12px"_s << 3 << u"C"_s;
-        QTest::newRow("hex of a word") << u"abc"_s << 3 << u"0"_s;
-        QTest::newRow("hex below zero") << u"-1"_s << 3 << u"FFFFFFFF"_s;
-        QTest::newRow("octal") << u"64"_s << 4 << u"100"_s;
-        QTest::newRow("binary") << u"10"_s << 5 << u"1010"_s;
-        QTest::newRow("binary of a word") << u"abc"_s << 5 << u"0"_s;
+        const auto row = Columns<QString, int, QString>("text", "command", "result");
+        row("upper", "straße ü", 0, "STRAßE Ü");
+        row("upper stays in the code page", "µƒÿ", 0, "µƒŸ");
+        row("upper beyond the code page", "čaj", 0, "ČAJ");
+        row("lower", "ÄB", 1, "äb");
+        row("turn", "abc", 2, "cba");
+        row("turn lines", "ab\r\ncd", 2, "dc\r\nba");
+        row("turn a smiley", "a\U0001F600b", 2, "b\U0001F600a");
+        row("hex", "255", 3, "FF");
+        row("hex of a length", "12px", 3, "C");
+        row("hex of a word", "abc", 3, "0");
+        row("hex below zero", "-1", 3, "FFFFFFFF");
+        row("octal", "64", 4, "100");
+        row("binary", "10", 5, "1010");
         for (const auto& [base, digits] :
              {std::pair(3, u"3"_s), std::pair(4, u"3"_s), std::pair(5, u"11"_s)}) {
             QTest::addRow("a fraction, command %d", base) << u"2.7"_s << base << digits;
             QTest::addRow("no number can hold it, command %d", base)
                 << QString(400, u'9') << base << QString(400, u'9');
         }
-        QTest::newRow("delete") << u"abc"_s << 6 << QString();
-        QTest::newRow("too large") << u"99999999999999999999"_s << 3 << u"99999999999999999999"_s;
+        row("delete", "abc", 6, "");
+        row("too large", "99999999999999999999", 3, "99999999999999999999");
     }
     void changesTheSelection() {
         void (*commands[])() = {Menu_Edit_EditString_UCase,
@@ -98,32 +88,31 @@ private slots:
         QCOMPARE(Clipboard::Text(), u"eins\r\n"_s);
         Menu_Edit_SelectAll();
         Menu_Edit_Cut_Click();
-        QCOMPARE(m_box.Text(), QString());
         Clipboard::SetText(u"a\nb"_s);
         Menu_Edit_Paste_Click();
         QCOMPARE(m_box.Text(), u"a\r\nb"_s);
     }
 
     void tellsResults() {
+        const QString code = u"Der ASCII-Code des markierten Zeichens ist: \r\n"_s;
+        using Command = void (*)();
+        for (const auto& [text, command, told] :
+             {std::tuple(u"1,5 und 2.5"_s, Command(Menu_Edit_CalculateText_Total),
+                         u"Die Summe der Zahlen ist: 4"_s),
+              std::tuple(u"1 1 2"_s, Command(Menu_Edit_CalculateText_Average),
+                         u"Der Durchschnitt der Zahlen ist: 1,333"_s),
+              std::tuple(u"1 1 2"_s, Command(Menu_Edit_CalculateText_Count),
+                         u"Die Anzahl der Zahlen ist: 3"_s),
+              std::tuple(u"€uro"_s, Command(Menu_Edit_CalculateText_ASCII), QString(code + u"128")),
+              std::tuple(u"\U0001F600"_s, Command(Menu_Edit_CalculateText_ASCII),
+                         QString(code + u"128512"))}) {
+            ScriptedDialogs dialogs;
+            dialogs.ExpectMessage(u"Aus Text berechnen"_s, told, Dialogs::Answer::Ok,
+                                  Dialogs::Icon::Information);
+            Select(text);
+            command();
+        }
         ScriptedDialogs dialogs;
-        const QString title = u"Aus Text berechnen"_s;
-        const auto expect = [&](const QString& text) {
-            dialogs.ExpectMessage(title, text, Dialogs::Answer::Ok, Dialogs::Icon::Information);
-        };
-        Select(u"1,5 und 2.5"_s);
-        expect(u"Die Summe der Zahlen ist: 4"_s);
-        Menu_Edit_CalculateText_Total();
-        Select(u"1 1 2"_s);
-        expect(u"Der Durchschnitt der Zahlen ist: 1,333"_s);
-        Menu_Edit_CalculateText_Average();
-        expect(u"Die Anzahl der Zahlen ist: 3"_s);
-        Menu_Edit_CalculateText_Count();
-        Select(u"€uro"_s);
-        expect(u"Der ASCII-Code des markierten Zeichens ist: \r\n128"_s);
-        Menu_Edit_CalculateText_ASCII();
-        Select(u"\U0001F600"_s);
-        expect(u"Der ASCII-Code des markierten Zeichens ist: \r\n128512"_s);
-        Menu_Edit_CalculateText_ASCII();
         Select(QString());
         Menu_Edit_CalculateText_ASCII(); // silent
     }
@@ -132,17 +121,11 @@ private slots:
         Global::CurrentFile = u"\\site\\seiten\\a.htm"_s;
         Select(QString());
         ScriptedDialogs dialogs;
-        dialogs.ExpectOpenFile(u"Dateiname einfügen"_s, u"\\site\\bilder\\x.gif"_s);
-        Menu_Insert_FileName();
-        QCOMPARE(m_box.Text(), u"../bilder/x.gif"_s);
-        Global::CurrentFile.clear();
-        Select(QString());
-        dialogs.ExpectOpenFile(u"Dateiname einfügen"_s, u"\\site\\x.gif"_s);
-        Menu_Insert_FileName();
-        QCOMPARE(m_box.Text(), u"/site/x.gif"_s);
-        dialogs.ExpectOpenFile(u"Dateiname einfügen"_s, {});
-        Menu_Insert_FileName();
-        QCOMPARE(m_box.Text(), u"/site/x.gif"_s);
+        for (const QString& chosen : {u"\\site\\bilder\\x.gif"_s, QString()}) {
+            dialogs.ExpectOpenFile(u"Dateiname einfügen"_s, chosen);
+            Menu_Insert_FileName();
+            QCOMPARE(m_box.Text(), u"../bilder/x.gif"_s);
+        }
     }
 
     void insertsDateAndTime() {
@@ -151,15 +134,49 @@ private slots:
         QCOMPARE(m_box.Text(), QLocale().toString(QDate::currentDate(), QLocale::ShortFormat));
     }
 
-    void changesTagsOfThePage() {
-        m_folder->Write(u"taglist.lst"_s, "p\r\n!x");
-        QVERIFY(Lists::LoadTagList());
-        Select(u"<P>x</P>"_s, 3, 0);
-        Menu_Tools_LCaseTags();
-        QCOMPARE(m_box.Text(), u"<p>x</p>"_s);
-        QCOMPARE(m_box.SelStart(), 3);
-        Menu_Tools_UCaseTags();
-        QCOMPARE(m_box.Text(), u"<P>x</P>"_s);
+    void selectsTheLineAtTheCaret_data() {
+        const auto row = Columns<QString, int, QString, int>("text", "caret", "line", "start");
+        const QString three = u"ab\r\ncd\r\nefg"_s;
+        row("first line", three, 1, "ab", 0);
+        row("end of the first line", three, 2, "ab", 0);
+        row("inside a break", three, 3, "ab", 0);
+        row("start of a line", three, 4, "cd", 4);
+        row("last line stays one short", three, 9, "ef", 8);
+        row("end of the text", three, 11, "ef", 8);
+        row("only character", "a", 0, "", 0);
+        row("empty text", "", 0, "", 0);
+        row("empty line", "a\r\n\r\nb", 3, "", 3);
+        row("empty last line", "ab\r\n", 4, "", 4);
+    }
+    void selectsTheLineAtTheCaret() {
+        QFETCH(QString, text);
+        QFETCH(int, caret);
+        TextBuffer box(text);
+        box.SetSelStart(caret);
+        QTEST(LineZoom::ReadCurrentLine(box), "line");
+        QTEST(int(box.SelStart()), "start");
+        QTEST(box.SelText(), "line");
+        QCOMPARE(box.Text(), text);
+    }
+
+    void writesTheLineBack_data() {
+        const auto row = Columns<QString, int, QString, QString>("text", "caret", "written", "result");
+        row("another text", "ab\r\ncd\r\nef", 5, "XYZ", "ab\r\nXYZ\r\nef");
+        row("nothing", "ab\r\ncd\r\nef", 5, "", "ab\r\n\r\nef");
+        row("a break splits", "ab\r\ncd\r\nef", 5, "c\r\nd", "ab\r\nc\r\nd\r\nef");
+        row("before the last character", "ab\r\ncd", 4, "X", "ab\r\nXd");
+        row("empty last line", "ab\r\n", 4, "cd", "ab\r\ncd");
+    }
+    void writesTheLineBack() {
+        QFETCH(QString, text);
+        QFETCH(int, caret);
+        QFETCH(QString, written);
+        Undo::UndoClear();
+        Select(text, caret, 0);
+        LineZoom::ReadCurrentLine(m_box);
+        LineZoom::SaveLine(m_box, written);
+        QTEST(m_box.Text(), "result");
+        QCOMPARE(Undo::UndoRing(1), text);
     }
 };
 

@@ -1,35 +1,30 @@
 // SPDX-License-Identifier: MIT
 // Typing in the real document window, with all its aids.
 #include "documents/document_commands.h"
-#include "documents/frm_code.h"
+#include "documents/new_documents.h"
 #include "documents/undo.h"
+#include "editing/frm_line_zoom.h"
 #include "editing/popup_list.h"
 #include "platform/drop_down_list.h"
-#include "platform/literals.h"
 #include "shell/frm_main.h"
 #include "shell/main_menu.h"
-#include "state/commands.h"
-#include "state/global.h"
-#include "support/driver.h"
-#include "support/program_folder.h"
-#include "support/scripted_dialogs.h"
-#include "support/test_registry.h"
+#include "support/program_test.h"
 
 #include <QClipboard>
 #include <QMenu>
+#include <QScrollBar>
 
-class Typing : public QObject {
+class Typing : public ProgramTest {
     Q_OBJECT
 
-    std::unique_ptr<ProgramFolder> m_folder;
-    std::unique_ptr<ScriptedDialogs> m_dialogs;
-    std::unique_ptr<Driver::RunningProgram> m_program;
-
-    static Txt_Code& Box() { return *Shared<Frm_Code>().TextBox; }
     static PopupList& List() { return *Shared<Frm_Code>().findChild<PopupList*>(u"Lvw_Attributes"_s); }
     void Open(const QString& name, const QByteArray& text, qsizetype caret = 0) {
         Documents::OpenFile(m_folder->Write(name, text));
         Box().SetSelStart(caret);
+    }
+    static void Select(qsizetype start, qsizetype length) {
+        Box().SetSelStart(start);
+        Box().SetSelLength(length);
     }
     static QPoint PlaceOf(qsizetype position) {
         Box().SetSelStart(position);
@@ -50,26 +45,27 @@ class Typing : public QObject {
         return entries;
     }
 
-private slots:
-    void init() {
-        m_folder = std::make_unique<ProgramFolder>();
-        m_dialogs = std::make_unique<ScriptedDialogs>();
-        m_program = std::make_unique<Driver::RunningProgram>();
-        Global::AutoDebug = Global::AutoProjectManager = false;
-    }
-    void cleanup() {
-        m_program.reset();
-        m_dialogs.reset();
-        m_folder.reset();
+    static Txt_Code* Zoom() { return Driver::Find<Txt_Code>(u"Txt_LineZoom"_s); }
+
+    // Opens the zoom with the caret at `caret`, runs `inside` and closes it as its close button does.
+    static void InZoom(const QString& command, qsizetype caret, std::function<void(QWidget*)> inside) {
+        Box().SetSelStart(caret);
+        Driver::InModal(u"Frm_LineZoom"_s, [inside](QWidget* window) {
+            inside(window);
+            if (Loaded<Frm_LineZoom>()) window->close();
+        });
+        Driver::Trigger(command);
+        // as the program's event loop does: the window that has ended is no longer the active one
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
+private slots:
     void insertsKeyCombinations() {
         Open(u"a.htm"_s, "abc");
         Global::KeyCombos[5] = u"<p>\r\n</p>"_s;
         Driver::PressCode(Qt::Key_5, Qt::ControlModifier);
         QCOMPARE(Box().Text(), u"<p>\r\n</p>abc"_s);
-        Box().SetSelStart(9);
-        Box().SetSelLength(3);
+        Select(9, 3);
         Driver::PressCode(Qt::Key_6, Qt::ControlModifier); // an empty one deletes the selection
         QCOMPARE(Box().Text(), u"<p>\r\n</p>"_s);
         Global::DocChanged = false;
@@ -79,7 +75,7 @@ private slots:
 
     void servesTheClipboardKeys() {
         Open(u"a.htm"_s, "abcdef");
-        Box().SetSelLength(3);
+        Select(0, 3);
         Driver::PressCode(Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(Box().Text(), u"abcdef"_s);
         QCOMPARE(Box().SelStart(), 3);
@@ -93,52 +89,40 @@ private slots:
         QCOMPARE(Box().Text(), u"abcdef"_s);
         Driver::PressCode(Qt::Key_C, Qt::ControlModifier); // nothing selected: the clipboard stays
         QCOMPARE(QGuiApplication::clipboard()->text(), u"de"_s);
-        Box().SetSelStart(0);
-        Box().SetSelLength(3);
+        Select(0, 3);
         Driver::PressCode(Qt::Key_Tab); // does not replace the selection
         QCOMPARE(Box().Text(), u"\tabcdef"_s);
-    }
-
-    void substitutesUmlautsAndTakesThemBack() {
-        Open(u"a.htm"_s, "");
-        Driver::Trigger(u"Menu_Tools_AutoUml"_s);
-        Driver::TypeCode(u"ä&Ö"_s);
-        QCOMPARE(Box().Text(), u"ae&Ouml;"_s);
-        QGuiApplication::clipboard()->setText(u"ü"_s);
-        Driver::PressCode(Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(Box().Text(), u"ae&Ouml;ue"_s);
-        QStringList seen;
-        while (seen.size() < 4) {
-            Driver::Trigger(u"Menu_Edit_Undo"_s);
-            if (seen.isEmpty() || seen.last() != Box().Text()) seen << Box().Text();
-        }
-        QVERIFY(seen.contains(u"ae&Ouml;"_s));
     }
 
     void leavesUndoneUmlautsAlone() {
         Open(u"a.htm"_s, "");
         Driver::Trigger(u"Menu_Tools_AutoUml"_s);
+        const auto undo = [] { Driver::PressCode(Qt::Key_Z, Qt::ControlModifier); };
+        const auto redo = [] { QTest::keySequence(&Box(), QKeySequence::Redo); };
         Driver::TypeCode(u"Grü"_s);
         QCOMPARE(Box().Text(), u"Grue"_s);
-        Driver::PressCode(Qt::Key_Z, Qt::ControlModifier); // one step takes the substitution back
+        undo(); // one step takes the substitution back
         QCOMPARE(Box().Text(), u"Grü"_s);
-        Driver::PressCode(Qt::Key_Z, Qt::ControlModifier);
+        undo();
         QCOMPARE(Box().Text(), QString());
-        QTest::keySequence(&Box(), QKeySequence::Redo);
+        redo();
         QCOMPARE(Box().Text(), u"Grü"_s);
-        QTest::keySequence(&Box(), QKeySequence::Redo);
+        redo();
         QCOMPARE(Box().Text(), u"Grue"_s);
-        Driver::PressCode(Qt::Key_Z, Qt::ControlModifier);
+        undo();
         Driver::TypeCode(u"n"_s);
         QCOMPARE(Box().Text(), u"Grün"_s);
-        Driver::TypeCode(u"ö"_s); // what is typed from then on is substituted
-        QCOMPARE(Box().Text(), u"Grünoe"_s);
+        Driver::TypeCode(u"&ö"_s); // what is typed from then on is substituted
+        QCOMPARE(Box().Text(), u"Grün&ouml;"_s);
+        QGuiApplication::clipboard()->setText(u"ü"_s);
+        Driver::PressCode(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(Box().Text(), u"Grün&ouml;ue"_s);
         QStringList seen;
         for (int i = 0; i < Undo::Depth; ++i) {
             Driver::Trigger(u"Menu_Edit_Undo"_s);
             seen << Box().Text();
         }
-        QVERIFY(seen.contains(u"Grü"_s) && seen.last().isEmpty());
+        QVERIFY(seen.contains(u"Grü"_s) && seen.contains(u"Grün&ouml;"_s) && seen.last().isEmpty());
     }
 
     void offersAttributesInTheMenu() {
@@ -171,8 +155,7 @@ private slots:
         // a selected word offers its kin
         const qsizetype at = Box().Text().indexOf(u"left");
         const QPoint place = PlaceOf(at + 2);
-        Box().SetSelStart(at);
-        Box().SetSelLength(4);
+        Select(at, 4);
         QTest::mouseClick(Box().viewport(), Qt::RightButton, {}, place);
         QVERIFY(List().isVisible() && !List().findItems(u"right"_s, Qt::MatchExactly).isEmpty());
         QTest::mouseClick(Box().viewport(), Qt::LeftButton, {}, QPoint(2, 2));
@@ -242,9 +225,8 @@ private slots:
         Driver::Trigger(u"Menu_Insert_JavaScript_CurrentVar"_s);
         QVERIFY(Box().Text().contains(u"zahlfunction zwei"));
         Box().SetSelStart(Box().Text().size());
-        Driver::FindControl(u"Tlb_JavaScript"_s)
-            ->findChild<QAction*>(u"Tlb_JavaScript_NewFunction"_s)
-            ->trigger();
+        auto* bar = Driver::FindControl(u"Tlb_JavaScript"_s);
+        bar->findChild<QAction*>(u"Tlb_JavaScript_NewFunction"_s)->trigger();
         QVERIFY(Box().Text().endsWith(u"function NeueFunktion()\r\n{\r\n\t\r\n\t\r\n}"));
         QCOMPARE(Box().SelStart(), Box().Text().size() - 3); // behind the second tab
     }
@@ -264,6 +246,81 @@ private slots:
         QVERIFY(Commands::IsChecked(u"Menu_View_ShowJavaScriptBar"_s));
         Driver::Trigger(u"Menu_View_ShowJavaScriptBar"_s);
         QCOMPARE(Box().y(), 0);
+    }
+
+    void showsALongLineUnwrapped() {
+        const QString line = u"<p>\u00a0"_s + u"Wort "_s.repeated(400) + u"</p>"_s;
+        Documents::CreateNewTextFile();
+        Box().SetText(u"vorher\r\n"_s + line + u"\r\nnachher"_s);
+        InZoom(u"Menu_View_Zoom"_s, 20, [&](QWidget* window) {
+            QVERIFY(Global::LineZoomOpen);
+            QCOMPARE(Zoom()->Text(), line);
+            QCOMPARE(Zoom()->LineFromChar(line.size()), 0);
+            QVERIFY(Zoom()->horizontalScrollBar()->maximum() > 0);
+            QCOMPARE(Zoom()->font().toString(), Box().font().toString());
+            QCOMPARE(Zoom()->size(), window->size());
+            // the Enter that has chosen the menu item is let go in the zoom already
+            QTest::keyRelease(Zoom(), Qt::Key_Return);
+            QVERIFY(Loaded<Frm_LineZoom>());
+        });
+        QVERIFY(!Global::LineZoomOpen);
+        QCOMPARE(Box().Text(), QString(u"vorher\r\n"_s + line + u"\r\nnachher"_s));
+    }
+
+    void everyWayOutSaves_data() {
+        const auto row = Columns<QString, int, QString>("command", "key", "result");
+        row("Enter", "Menu_View_Zoom", int(Qt::Key_Return), "ab\r\nX\r\ncd\r\nef");
+        row("number block", "Menu_Menu_Code_Zoom", int(Qt::Key_Enter), "ab\r\nX\r\ncd\r\nef");
+        row("Escape", "Menu_View_Zoom", int(Qt::Key_Escape), "ab\r\nXcd\r\nef");
+        row("close button", "Menu_Menu_Code_Zoom", 0, "ab\r\nXcd\r\nef");
+    }
+    void everyWayOutSaves() {
+        QFETCH(QString, command);
+        QFETCH(int, key);
+        Documents::CreateNewTextFile();
+        Box().SetText(u"ab\r\ncd\r\nef"_s);
+        Global::DocChanged = false;
+        InZoom(command, 5, [key](QWidget*) {
+            QTest::keyClicks(Zoom(), u"X"_s);
+            if (key != 0) QTest::keyClick(Zoom(), static_cast<Qt::Key>(key));
+        });
+        QVERIFY(!Loaded<Frm_LineZoom>());
+        QTEST(Box().Text(), "result");
+        QVERIFY(Global::DocChanged);
+        Undo::UndoStep();
+        QCOMPARE(Box().Text(), u"ab\r\ncd\r\nef"_s);
+    }
+
+    void remembersItsPlace() {
+        Documents::CreateNewTextFile();
+        Global::LineZoomPos = {QString(), u"600"_s, u"600"_s, QString(), QString()};
+        InZoom(u"Menu_View_Zoom"_s, 0, [](QWidget* window) {
+            window->move(45, 60);
+            window->resize(400, 90);
+        });
+        const Global::ToolPos stored = Global::LineZoomPos;
+        InZoom(u"Menu_View_Zoom"_s, 0, [](QWidget* window) {
+            QCOMPARE(QRect(window->pos(), window->size()), QRect(45, 60, 400, 90));
+        });
+        QCOMPARE(Global::LineZoomPos, stored); // neither creeps nor grows from one time to the next
+    }
+
+    void comesBackToSightFromStrangePlaces_data() {
+        const auto row = Columns<QStringList>("place");
+        row("beyond the screen", {"900000", "900000", "6000", "1500"});
+        row("huge", {"0", "0", "9000000", "9000000"});
+        row("no numbers", {"links", "oben", "breit", "hoch"});
+        row("negative", {"-90000", "-90000", "-5", "-5"});
+    }
+    void comesBackToSightFromStrangePlaces() {
+        QFETCH(QStringList, place);
+        Documents::CreateNewTextFile();
+        for (int i = 0; i < 4; ++i) Global::LineZoomPos[static_cast<size_t>(i + 1)] = place[i];
+        InZoom(u"Menu_View_Zoom"_s, 0, [](QWidget* window) {
+            QVERIFY(window->screen()->availableGeometry().contains(window->pos()));
+            QVERIFY(window->width() >= 100 && window->width() <= window->screen()->size().width());
+            QVERIFY(window->height() >= 30 && window->height() <= window->screen()->size().height());
+        });
     }
 };
 

@@ -1,50 +1,23 @@
 // SPDX-License-Identifier: MIT
 // What is promised about the user's text and files, kept by the real program.
 #include "documents/document_commands.h"
-#include "documents/frm_code.h"
 #include "documents/recovery.h"
 #include "platform/files.h"
-#include "platform/literals.h"
 #include "platform/screen_place.h"
 #include "shell/frm_main.h"
 #include "shell/status_bar.h"
 #include "shell/wiring.h"
-#include "state/commands.h"
-#include "state/global.h"
-#include "state/neighbours.h"
-#include "state/windows.h"
-#include "support/driver.h"
-#include "support/program_folder.h"
-#include "support/scripted_dialogs.h"
+#include "support/program_test.h"
 #include "support/small_disk.h"
-#include "support/test_registry.h"
 
-class Promises : public QObject {
+class Promises : public ProgramTest {
     Q_OBJECT
-
-    static Txt_Code& Box() { return *Shared<Frm_Code>().TextBox; }
 
     static inline const QByteArray Picture = QByteArray("GIF89a\1\0\1\0\x80\r\0\xFF\n\xFF\0\0\0;", 20);
     static inline const QString Unsaved =
         QStringLiteral("Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?");
 
-    std::unique_ptr<ProgramFolder> m_folder;
-    std::unique_ptr<ScriptedDialogs> m_dialogs;
-    std::unique_ptr<Driver::RunningProgram> m_program;
-
 private slots:
-    void init() {
-        m_folder = std::make_unique<ProgramFolder>();
-        m_dialogs = std::make_unique<ScriptedDialogs>();
-        m_program = std::make_unique<Driver::RunningProgram>();
-        Global::AutoDebug = Global::AutoProjectManager = false;
-    }
-    void cleanup() {
-        m_program.reset();
-        m_dialogs.reset();
-        m_folder.reset();
-    }
-
     void beginsAHistoryWithEachDocument() {
         const QByteArray shared(2000, 'x');
         const auto takesNothingBack = [] {
@@ -157,19 +130,95 @@ private slots:
     }
 
     void fitsTheWindowToItsScreen_data() {
-        QTest::addColumn<QRect>("saved");
-        QTest::addColumn<QRect>("shown");
-        QTest::newRow("as it was") << QRect(40, 50, 900, 650) << QRect(40, 50, 900, 650);
-        QTest::newRow("half outside") << QRect(900, 700, 900, 650) << QRect(380, 150, 900, 650);
-        QTest::newRow("from a larger screen") << QRect(-20, -30, 3000, 2000) << QRect(0, 0, 1280, 800);
-        QTest::newRow("on the second") << QRect(1500, 100, 600, 500) << QRect(1500, 100, 600, 500);
-        QTest::newRow("nowhere") << QRect(9000, 9000, 600, 500) << QRect(680, 300, 600, 500);
-        QTest::newRow("too small") << QRect(10, 10, 5, 5) << QRect(10, 10, 480, 360);
+        const auto row = Columns<QRect, QRect>("saved", "shown");
+        row("as it was", QRect(40, 50, 900, 650), QRect(40, 50, 900, 650));
+        row("half outside", QRect(900, 700, 900, 650), QRect(380, 150, 900, 650));
+        row("from a larger screen", QRect(-20, -30, 3000, 2000), QRect(0, 0, 1280, 800));
+        row("on the second", QRect(1500, 100, 600, 500), QRect(1500, 100, 600, 500));
+        row("nowhere", QRect(9000, 9000, 600, 500), QRect(680, 300, 600, 500));
+        row("too small", QRect(10, 10, 5, 5), QRect(10, 10, 480, 360));
     }
     void fitsTheWindowToItsScreen() {
         QFETCH(QRect, saved);
         QTEST(FittedToScreen(saved, {QRect(0, 0, 1280, 800), QRect(1280, 0, 1024, 768)}, {480, 360}),
               "shown");
+    }
+
+    // With "ü€" typed at the very start.
+    void leavesExactlyTheExpectedBytes() {
+        for (const auto& [before, after] :
+             {std::pair<QByteArray, QByteArray>("gr\xFC\xDF\r\nab", "\xFC\x80gr\xFC\xDF\r\nab\r\n"),
+              std::pair<QByteArray, QByteArray>("\xEF\xBB\xBF<p>\n",
+                                                "\xEF\xBB\xBF\xC3\xBC\xE2\x82\xAC<p>\n")}) {
+            m_dialogs->ExpectOpenFile(u"Öffnen"_s, m_folder->Write(u"seite.htm"_s, before));
+            Driver::Trigger(u"ToolBar_OpenFile"_s);
+            QVERIFY(!Global::DocChanged);
+            Driver::TypeCode(u"ü€"_s);
+            QCOMPARE(Shared<Frm_Main>().Status()->Panel(2), u"geändert"_s);
+            for (int times = 0; times < 2; ++times) { // a second time changes nothing
+                Driver::Trigger(u"Menu_File_Save"_s);
+                QCOMPARE(m_folder->Read(u"seite.htm"_s), after);
+            }
+            Driver::Trigger(u"Menu_File_SaveBackUp"_s);
+            QCOMPARE(m_folder->Read(u"seite.htm.bak"_s), after);
+        }
+    }
+
+    void editsWithMenuAndKeys() {
+        Driver::Trigger(u"ToolBar_NewXHTML_HTML"_s);
+        QVERIFY(Driver::IsEnabled(u"Menu_File_Save"_s) && !Driver::IsEnabled(u"Menu_File_SaveBackUp"_s));
+        QCOMPARE(Shared<Frm_Main>().windowTitle(), u"Sorvane HTML Editor 3.0 [HTML]"_s);
+        Driver::Trigger(u"Menu_Edit_SelectAll"_s);
+        Driver::Trigger(u"Menu_Edit_Delete"_s);
+        QVERIFY(!Driver::IsEnabled(u"Menu_Edit_Cut"_s));
+        Driver::TypeCode(u"<div><B>x"_s);
+        Driver::Trigger(u"Menu_Insert_CloseTag"_s);
+        QCOMPARE(Box().Text(), u"<div><B>x</B>"_s);
+        Driver::Trigger(u"Menu_Edit_Undo"_s);
+        QCOMPARE(Box().Text(), u"<div><B>x"_s);
+        Driver::Trigger(u"Menu_Tools_UCaseTags"_s);
+        m_dialogs->ExpectSaveFile(u"Speichern unter"_s, m_folder->Path(u"neu.htm"_s));
+        Driver::Trigger(u"Menu_File_Save"_s);
+        QCOMPARE(m_folder->Read(u"neu.htm"_s), QByteArray("<DIV><B>x\r\n"));
+        Driver::Trigger(u"Menu_File_Close"_s);
+        QVERIFY(!Loaded<Frm_Code>() && !Driver::IsEnabled(u"Menu_File_Save"_s));
+        QCOMPARE(Shared<Frm_Main>().windowTitle(), Global::ProgramName);
+    }
+
+    // Keys that menu items have as shortcuts, and keys that belong to the box.
+    void sharesKeysBetweenMenuAndBox() {
+        Documents::OpenFile(m_folder->Write(u"a.txt"_s, "abcdef"));
+        Shared<Frm_Main>().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&Shared<Frm_Main>(), 30000));
+        Box().setFocus();
+        Driver::PressCode(Qt::Key_Delete); // without a selection the key is the box's
+        QCOMPARE(Box().Text(), u"bcdef"_s);
+        Box().SetSelStart(1);
+        Box().SetSelLength(2);
+        Driver::PressCode(Qt::Key_Delete); // with one the command acts, by a whole new text
+        QCOMPARE(Box().Text(), u"bef"_s);
+        QCOMPARE(Box().SelStart(), 1);
+        Driver::PressCode(Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(Box().SelLength(), 3);
+        Driver::PressCode(Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(m_folder->Read(u"a.txt"_s), QByteArray("bef\r\n"));
+    }
+
+    void findsEverythingAgain() {
+        const QString page = m_folder->Write(u"a.htm"_s, "x");
+        Documents::OpenFile(page);
+        Driver::Trigger(u"Menu_File_Save"_s);
+        Shared<Frm_Main>().showNormal();
+        Shared<Frm_Main>().setGeometry(40, 50, 700, 600);
+        QCoreApplication::processEvents();
+        const QRect place = Shared<Frm_Main>().frameGeometry();
+        Shared<Frm_Main>().close();
+        m_program.reset();
+        Global::Reset();
+        m_program = std::make_unique<Driver::RunningProgram>();
+        QCOMPARE(Shared<Frm_Main>().frameGeometry(), place);
+        QCOMPARE(Global::LastFile, page);
+        QVERIFY(!Global::AutoDebug);
     }
 };
 

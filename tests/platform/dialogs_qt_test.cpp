@@ -2,9 +2,8 @@
 // The real dialogs, answered as their user does.
 #include "platform/dialogs_qt.h"
 
-#include "platform/literals.h"
 #include "support/driver.h"
-#include "support/test_registry.h"
+#include "support/test.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
@@ -18,34 +17,25 @@ class DialogsQt : public QObject {
     QtHandler m_handler{[] { return QString(); }};
 
 private slots:
-    void takesOnlyTheAnswersOfAQuestion_data() {
-        QTest::addColumn<int>("buttons");
-        QTest::addColumn<int>("left"); // the answer by Esc and by the frame's X; -1: it stays
-        QTest::newRow("yes and no") << int(Buttons::YesNo) << -1;
-        QTest::newRow("with cancel") << int(Buttons::YesNoCancel) << int(Answer::Cancel);
-        QTest::newRow("ok") << int(Buttons::Ok) << int(Answer::Ok);
-    }
+    // The answer by Esc and by the frame's X; a question without a third one stays.
     void takesOnlyTheAnswersOfAQuestion() {
-        QFETCH(int, buttons);
-        QFETCH(int, left);
-        const Message message{u"Titel"_s, u"Text"_s, Icon::Question, Buttons(buttons), Answer::Yes};
-        for (const bool byKey : {true, false}) {
-            bool stayed = false;
-            Driver::InModal(u"MsgBox"_s, [&](QWidget* box) {
-                if (byKey) {
-                    QTest::keyClick(box, Qt::Key_Escape);
+        for (const auto& [buttons, stays, left] : {std::tuple(Buttons::YesNo, true, Answer::Yes),
+                                                   std::tuple(Buttons::YesNoCancel, false, Answer::Cancel),
+                                                   std::tuple(Buttons::Ok, false, Answer::Ok)}) {
+            for (const bool byKey : {true, false}) {
+                bool stayed = false;
+                Driver::InModal(u"MsgBox"_s, [&](QWidget* box) {
+                    if (byKey) QTest::keyClick(box, Qt::Key_Escape);
                     for (QAbstractButton* button : box->findChildren<QAbstractButton*>()) {
-                        if (box->isVisible()) QTest::keyClick(button, Qt::Key_Escape);
+                        if (byKey && box->isVisible()) QTest::keyClick(button, Qt::Key_Escape);
                     }
-                } else {
-                    box->close();
-                }
-                stayed = box->isVisible();
-                if (stayed) qobject_cast<QMessageBox*>(box)->button(QMessageBox::Yes)->click();
-            });
-            const Answer answer = m_handler.Ask(message);
-            QCOMPARE(stayed, left < 0);
-            QCOMPARE(int(answer), left < 0 ? int(Answer::Yes) : left);
+                    if (!byKey) box->close();
+                    stayed = box->isVisible();
+                    if (stayed) qobject_cast<QMessageBox*>(box)->button(QMessageBox::Yes)->click();
+                });
+                QVERIFY(m_handler.Ask({u"Titel"_s, u"Text"_s, Icon::Question, buttons, Answer::Yes}) == left);
+                QCOMPARE(stayed, stays);
+            }
         }
     }
 
@@ -62,13 +52,11 @@ private slots:
     }
 
     void addsTheExtensionOfTheChosenGroup_data() {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("group");
-        QTest::addColumn<QString>("path");
-        QTest::newRow("page") << u"seite"_s << 0 << u"seite.htm"_s;
-        QTest::newRow("style sheet") << u"seite"_s << 1 << u"seite.css"_s;
-        QTest::newRow("all files") << u"seite"_s << 2 << u"seite"_s;
-        QTest::newRow("with an extension") << u"seite.txt"_s << 1 << u"seite.txt"_s;
+        const auto row = Columns<QString, int, QString>("typed", "group", "path");
+        row("page", "seite", 0, "seite.htm");
+        row("style sheet", "seite", 1, "seite.css");
+        row("all files", "seite", 2, "seite");
+        row("with an extension", "seite.txt", 1, "seite.txt");
     }
     void addsTheExtensionOfTheChosenGroup() {
         QFETCH(QString, typed);

@@ -3,13 +3,8 @@
 #include "platform/literals.h"
 #include "shell/frm_main.h"
 #include "shell/wiring.h"
-#include "state/commands.h"
-#include "state/neighbours.h"
-#include "state/windows.h"
 #include "support/driver.h"
-#include "support/program_folder.h"
-#include "support/scripted_dialogs.h"
-#include "support/test_registry.h"
+#include "support/test.h"
 
 #include <QDirIterator>
 #include <QRegularExpression>

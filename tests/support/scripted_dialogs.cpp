@@ -16,33 +16,6 @@ ScriptedDialogs::~ScriptedDialogs() {
     }
 }
 
-void ScriptedDialogs::ExpectMessage(const QString& title, const QString& text, Dialogs::Answer answer,
-                                    Dialogs::Icon icon) {
-    m_script.push_back({u"message"_s, title, text, {}, answer, icon});
-}
-
-void ScriptedDialogs::ExpectText(const QString& title, const QString& answer) {
-    m_script.push_back({u"input"_s, title, {}, answer});
-}
-
-void ScriptedDialogs::ExpectOpenFile(const QString& title, const QString& path) {
-    m_script.push_back({u"open"_s, title, {}, path});
-}
-
-void ScriptedDialogs::ExpectSaveFile(const QString& title, const QString& path) {
-    m_script.push_back({u"save"_s, title, {}, path});
-}
-
-void ScriptedDialogs::ExpectFolder(const QString& title, const QString& path) {
-    m_script.push_back({u"folder"_s, title, {}, path});
-}
-
-void ScriptedDialogs::ExpectBeep() { m_script.push_back({u"beep"_s, {}, {}, {}}); }
-
-void ScriptedDialogs::ExpectAddress(const QString& address) {
-    m_script.push_back({u"address"_s, address, {}, {}});
-}
-
 ScriptedDialogs::Step ScriptedDialogs::Take(const QString& kind, const QString& title, const QString& text) {
     const Step step = m_script.empty() ? Step{} : m_script.front();
     if (step.kind != kind || step.title != title || (kind == u"message" && step.text != text)) {

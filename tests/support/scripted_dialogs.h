@@ -15,13 +15,15 @@ public:
 
     void ExpectMessage(const QString& title, const QString& text,
                        Dialogs::Answer answer = Dialogs::Answer::Ok,
-                       Dialogs::Icon icon = Dialogs::Icon::None); // Icon::None: any
-    void ExpectText(const QString& title, const QString& answer);
-    void ExpectOpenFile(const QString& title, const QString& path);
-    void ExpectSaveFile(const QString& title, const QString& path);
-    void ExpectFolder(const QString& title, const QString& path);
-    void ExpectBeep();
-    void ExpectAddress(const QString& address);
+                       Dialogs::Icon icon = Dialogs::Icon::None) { // Icon::None: any
+        m_script.push_back({"message", title, text, {}, answer, icon});
+    }
+    void ExpectText(const QString& title, const QString& answer) { Expect("input", title, answer); }
+    void ExpectOpenFile(const QString& title, const QString& path) { Expect("open", title, path); }
+    void ExpectSaveFile(const QString& title, const QString& path) { Expect("save", title, path); }
+    void ExpectFolder(const QString& title, const QString& path) { Expect("folder", title, path); }
+    void ExpectBeep() { Expect("beep", {}, {}); }
+    void ExpectAddress(const QString& address) { Expect("address", address, {}); }
     // Whether all expected questions have come.
     bool Finished() const { return m_script.empty(); }
 
@@ -45,6 +47,9 @@ private:
         Dialogs::Answer button = Dialogs::Answer::Ok;
         Dialogs::Icon icon = Dialogs::Icon::None;
     };
+    void Expect(const QString& kind, const QString& title, const QString& answer) {
+        m_script.push_back({kind, title, {}, answer});
+    }
     Step Take(const QString& kind, const QString& title, const QString& text);
 
     std::deque<Step> m_script;
