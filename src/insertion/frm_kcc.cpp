@@ -51,7 +51,8 @@ Frm_KCC::Frm_KCC()
         button->setToolTip(color.name.toString());
         button->setAccessibleName(color.name.toString());
         button->setAutoRaise(true);
-        button->setIcon(ColorIcon(QColor(QString(u'#' + color.hex.toString())), palette().color(QPalette::WindowText)));
+        button->setIcon(
+            ColorIcon(QColor(QString(u'#' + color.hex.toString())), palette().color(QPalette::WindowText)));
         connect(button, &QToolButton::clicked, this, [this, index] { Img_ColorChoice_Click(index); });
         colors->addWidget(button, index / InARow, index % InARow);
         ++index;
