@@ -9,7 +9,7 @@
 #include <algorithm>
 
 namespace {
-constexpr QSize ButtonSize(24, 22); // pixels
+constexpr QSize ButtonSize(23, 22); // pixels
 constexpr int IconSize = 16;
 } // namespace
 

@@ -39,7 +39,7 @@ Frm_Frames::Frm_Frames()
     Lvw_Frames->setResizeMode(QListView::Adjust);
     Lvw_Frames->setIconSize({64, 64});
     Lvw_Frames->setGridSize({92, 80});
-    Lvw_Frames->setMinimumSize(3 * 92 + 8, 3 * 80 + 8);
+    Lvw_Frames->setMinimumSize(3 * 92 + 30, 3 * 80 + 8);
     for (const FrameTexts::Layout& layout : FrameTexts::Layouts()) {
         auto* item = new QListWidgetItem(Icons::Named(layout.icon), QString(), Lvw_Frames);
         item->setData(Qt::UserRole, layout.kind.toString());

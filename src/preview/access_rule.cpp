@@ -32,7 +32,7 @@ bool IsPageOrPicture(const QUrl& url) {
 }
 
 bool IsText(const QUrl& url) {
-    static const QStringList kinds{u"txt"_s, u"pdf"_s, QString()};
+    static const QStringList kinds{u"txt"_s, QString()}; // the engine has no view of PDF files
     return kinds.contains(ExtensionOf(url));
 }
 

@@ -21,7 +21,7 @@ public:
     enum class Part { Data, Frame, Other };
     // Whether the page `page` may load `url` as one of its parts. A script can look into the frames of a
     // local page. So it gets no data, and a frame holds nothing but pages and pictures, and as long as the
-    // network is closed, texts, PDF files and files without extension of the page's own folder and those in
+    // network is closed, texts and files without extension of the page's own folder and those in
     // it.
     bool AllowsPart(const QUrl& url, Part part, const QUrl& page) const;
     // Whether a main page that AllowsPage() has seen may be fetched.

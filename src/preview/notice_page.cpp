@@ -46,7 +46,7 @@ Adresse dort ein.</p>)"_s.arg(BrowserAddress::ForSystem(address).toHtmlEscaped()
 QUrl RefusedFrame(const QUrl& address, const QString& background, const QString& text) {
     const QString fileTitle = u"<h1>Diese Datei wird hier nicht gezeigt</h1>"_s;
     const QString fileText =
-        u"<p>In einem Rahmen zeigt die Vorschau Seiten und Bilder sowie Texte und PDF-Dateien, die im Ordner "
+        u"<p>In einem Rahmen zeigt die Vorschau Seiten und Bilder sowie Texte, die im Ordner "
         "der Seite oder darunter liegen. Deshalb wurde diese Datei nicht geladen:</p>"_s;
     const QString body =
         BrowserAddress::IsNetwork(address) ? NetworkTitle + NetworkText : fileTitle + fileText;

@@ -96,7 +96,7 @@ private slots:
 
     void showsTextsOfThePagesOwnFolders() {
         const ProgramFolder folder(ProgramFolder::Content::Empty);
-        for (const QString& name : {u"a.txt"_s, u"site/b.TXT"_s, u"site/sub/c.pdf"_s, u"site/LIESMICH"_s,
+        for (const QString& name : {u"a.txt"_s, u"site/b.TXT"_s, u"site/sub/c.txt"_s, u"site/LIESMICH"_s,
                                     u"site.txt"_s, u"site/x.ini"_s, u"site2/d.txt"_s}) {
             folder.Write(name, "x");
         }
@@ -106,7 +106,7 @@ private slots:
         const auto shown = [&](const QString& name) {
             return rule.AllowsPart(QUrl::fromLocalFile(folder.System(name)), AccessRule::Part::Frame, page);
         };
-        for (const QString& name : {u"site/b.TXT"_s, u"site/sub/c.pdf"_s, u"site/LIESMICH"_s})
+        for (const QString& name : {u"site/b.TXT"_s, u"site/sub/c.txt"_s, u"site/LIESMICH"_s})
             QVERIFY2(shown(name), qPrintable(name));
         for (const QString& name : {u"a.txt"_s, u"site/../a.txt"_s, u"site.txt"_s, u"site2/d.txt"_s,
                                     u"site/x.ini"_s, u"site/link.txt"_s, u"site/sub"_s, u"site/"_s})
