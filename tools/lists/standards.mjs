@@ -24,7 +24,7 @@ export const svgEverywhere = svgElementAttributes['*'];
 export const svgOwn = (element) => of(svgElementAttributes, element);
 export const svgNames = svgTagNames;
 
-// Specifications whose members a page's script meets; drafts that stand beside them don't count.
+// Standards whose members a page's script meets; drafts that stand beside them don't count.
 const scriptStandards = [
   'html', 'dom', 'cssom', 'cssom-view', 'css-animations', 'css-transitions', 'uievents',
   'pointerevents', 'touch-events', 'input-events', 'clipboard-apis', 'fullscreen', 'fetch', 'xhr',
@@ -36,7 +36,7 @@ const scriptStandards = [
   'web-share', 'css-font-loading', 'streams',
 ];
 
-const specifications = await idl.parseAll();
+const publications = await idl.parseAll();
 const interfaces = new Map();
 const kindsOfType = new Map();
 
@@ -45,7 +45,7 @@ function typeEntry(name) {
   return interfaces.get(name);
 }
 
-for (const [specification, definitions] of Object.entries(specifications)) {
+for (const [publication, definitions] of Object.entries(publications)) {
   for (const definition of definitions) {
     if (['enum', 'typedef', 'interface', 'dictionary'].includes(definition.type)) {
       kindsOfType.set(definition.name, definition);
@@ -56,7 +56,7 @@ for (const [specification, definitions] of Object.entries(specifications)) {
       const entry = typeEntry(definition.name);
       entry.parent = definition.inheritance ?? entry.parent;
       for (const member of definition.members ?? []) {
-        if (member.name) entry.members.push({ ...plain(member), specification });
+        if (member.name) entry.members.push({ ...plain(member), publication });
       }
     }
   }
@@ -84,7 +84,7 @@ export function ownMembers(name) {
   const type = interfaces.get(name);
   if (type === undefined) return [];
   const own = type.members
-    .filter((member) => scriptStandards.includes(member.specification)
+    .filter((member) => scriptStandards.includes(member.publication)
       && ['attribute', 'operation', 'const'].includes(member.type))
     .map(entryOf);
   return [...new Set([...own, ...type.mixins.flatMap(ownMembers)])];
@@ -96,7 +96,7 @@ export function ancestors(name) {
   return parent ? [parent, ...ancestors(parent)] : [];
 }
 
-const handlersIn = (specification, targets) => specifications[specification]
+const handlersIn = (publication, targets) => publications[publication]
   .filter((definition) => targets.includes(definition.name))
   .flatMap((definition) => definition.members ?? [])
   .filter((member) => member.type === 'attribute' && /^on[a-z]+$/.test(member.name))
