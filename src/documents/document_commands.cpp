@@ -309,13 +309,7 @@ void Menu_File_SaveAs() {
     if (Global::OpenFailed) return;
     const QString path = Dialogs::SaveFileDialog(u"Speichern unter"_s, SaveFilter);
     if (path.isEmpty()) return;
-    if (Files::CanRead(path)) {
-        const Answer answer = Dialogs::MsgBox(
-            {u"Speichern"_s,
-             u"Eine Datei mit diesem Namen existiert bereits.\rSoll sie überschrieben werden?"_s,
-             Dialogs::Icon::Question, Dialogs::Buttons::YesNo, Answer::No});
-        if (answer != Answer::Yes) return;
-    }
+    if (!Dialogs::MayOverwrite(path, Dialogs::Icon::Question, Dialogs::Answer::No)) return;
     Global::CurrentFile = path;
     WriteDocument(true);
 }

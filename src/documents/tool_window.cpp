@@ -38,16 +38,17 @@ void ToolWindow::Present() {
     raise();
 }
 
-void ToolWindow::Wrap(const QString& before, const QString& after) {
-    if (!InsertionPoint::Wrap(before, after)) return;
+void ToolWindow::BackToCode() {
     if (parentWidget()) parentWidget()->activateWindow();
     Neighbours::FocusCode();
 }
 
+void ToolWindow::Wrap(const QString& before, const QString& after) {
+    if (InsertionPoint::Wrap(before, after)) BackToCode();
+}
+
 void ToolWindow::Insert(const QString& text) {
-    if (!InsertionPoint::Insert(text)) return;
-    if (parentWidget()) parentWidget()->activateWindow();
-    Neighbours::FocusCode();
+    if (InsertionPoint::Insert(text)) BackToCode();
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {
@@ -58,6 +59,5 @@ void ToolWindow::closeEvent(QCloseEvent* event) {
 // Esc goes back to the code; the window stays.
 void ToolWindow::keyPressEvent(QKeyEvent* event) {
     if (!event->matches(QKeySequence::Cancel)) return QWidget::keyPressEvent(event);
-    if (parentWidget()) parentWidget()->activateWindow();
-    Neighbours::FocusCode();
+    BackToCode();
 }

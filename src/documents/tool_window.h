@@ -37,5 +37,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void BackToCode();
+
     const ToolKind m_kind;
 };

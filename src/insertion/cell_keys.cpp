@@ -9,7 +9,7 @@ CellKeys::CellKeys(QTableView* grid, QLineEdit* field) : QObject(grid), m_grid(g
     field->installEventFilter(this);
 }
 
-// To the next cell; at an edge by Tab and Enter to the row's or column's other end. Whether there was one.
+// To the cell that many rows and columns away; returns whether there is one.
 bool CellKeys::Move(int rows, int columns) {
     const QModelIndex cell = m_grid->currentIndex();
     if (!cell.isValid()) return false;

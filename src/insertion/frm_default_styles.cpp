@@ -106,13 +106,7 @@ void Frm_DefaultStyles::Insert() {
     const QString target =
         Dialogs::SaveFileDialog(u"Design speichern unter"_s, u"StyleSheets (*.css)|*.css"_s);
     if (target.isEmpty()) return;
-    if (Files::CanRead(target)) {
-        const auto answer = Dialogs::MsgBox(
-            {u"Speichern"_s,
-             u"Eine Datei mit diesem Namen existiert bereits.\rSoll sie überschrieben werden?"_s,
-             Dialogs::Icon::Exclamation, Dialogs::Buttons::YesNo});
-        if (answer != Dialogs::Answer::Yes) return;
-    }
+    if (!Dialogs::MayOverwrite(target, Dialogs::Icon::Exclamation, Dialogs::Answer::Yes)) return;
     CopyAndLink(source, target);
 }
 

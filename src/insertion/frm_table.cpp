@@ -134,13 +134,7 @@ void Frm_Table::Save() {
     }
     const QString path = Dialogs::SaveFileDialog(u"Tabelle speichern"_s, FileFilter);
     if (path.isEmpty()) return;
-    if (Files::CanRead(path)) {
-        const auto answer = Dialogs::MsgBox(
-            {u"Speichern"_s,
-             u"Eine Datei mit diesem Namen existiert bereits.\rSoll sie überschrieben werden?"_s,
-             Dialogs::Icon::Exclamation, Dialogs::Buttons::YesNo});
-        if (answer != Dialogs::Answer::Yes) return;
-    }
+    if (!Dialogs::MayOverwrite(path, Dialogs::Icon::Exclamation, Dialogs::Answer::Yes)) return;
     WriteFile(path);
 }
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/dialogs.h"
 
+#include "platform/files.h"
+#include "platform/literals.h"
+
 #include <utility>
 
 namespace Dialogs {
@@ -36,6 +39,13 @@ QString SaveFileDialog(const QString& title, const QString& filter) {
 }
 
 QString FolderDialog(const QString& title) { return Current() ? Current()->ChooseFolder(title) : QString(); }
+
+bool MayOverwrite(const QString& path, Icon icon, Answer preset) {
+    if (!Files::CanRead(path)) return true;
+    return MsgBox({u"Speichern"_s,
+                   u"Eine Datei mit diesem Namen existiert bereits.\rSoll sie überschrieben werden?"_s, icon,
+                   Buttons::YesNo, preset}) == Answer::Yes;
+}
 
 void Beep() {
     if (Current()) Current()->Beep();

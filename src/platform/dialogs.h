@@ -52,6 +52,9 @@ QString InputBox(const QString& prompt, const QString& title, const QString& pre
 QString OpenFileDialog(const QString& title, const QString& filter);
 QString SaveFileDialog(const QString& title, const QString& filter);
 QString FolderDialog(const QString& title);
+// Whether the chosen `path` may be written: where a file of that name can be read it asks, with the icon and
+// the default button that the command has.
+bool MayOverwrite(const QString& path, Icon icon, Answer preset);
 void Beep();
 void OpenAddress(const QString& address);
 
