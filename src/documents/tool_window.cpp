@@ -4,11 +4,13 @@
 #include "documents/insertion_point.h"
 #include "platform/literals.h"
 #include "platform/mdi_child.h"
+#include "platform/screen_place.h"
 #include "state/neighbours.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiArea>
+#include <algorithm>
 
 namespace {
 QWidget* MainWindow() { return MdiChild::Host() ? MdiChild::Host()->window() : nullptr; }
@@ -25,6 +27,7 @@ void ToolWindow::OnLoad() {
     if (Global::AssistantOpen) Neighbours::RunAnimation(1, m_kind.line);
     if (m_kind.preset.isEmpty()) adjustSize(); // to what it holds
     ToolPlace::Restore(*this, *m_kind.place, m_kind.keeps, m_kind.preset);
+    StepAside();
 }
 
 void ToolWindow::OnUnload() {
@@ -36,6 +39,17 @@ void ToolWindow::OnUnload() {
 void ToolWindow::Present() {
     show();
     raise();
+}
+
+void ToolWindow::StepAside() {
+    if (!parentWidget()) return;
+    auto others = parentWidget()->findChildren<ToolWindow*>(Qt::FindDirectChildrenOnly);
+    erase_if(others, [](const ToolWindow* other) { return !other->isVisible(); });
+    std::ranges::sort(others, {}, &QWidget::y);
+    for (const ToolWindow* other : others) {
+        if ((other->pos() - pos()).manhattanLength() <= 2) move(x(), other->frameGeometry().bottom() + 5);
+    }
+    move(FittedToScreen(frameGeometry()).topLeft());
 }
 
 void ToolWindow::BackToCode() {

@@ -38,6 +38,9 @@ protected:
 
 private:
     void BackToCode();
+    // Moves the window below the other tools that stand on the very same spot, as all do before they have been
+    // moved for the first time.
+    void StepAside();
 
     const ToolKind m_kind;
 };
