@@ -6,6 +6,7 @@
 #include "documents/document_commands.h"
 #include "documents/frm_code.h"
 #include "documents/text_buffer.h"
+#include "milliseconds.h"
 #include "platform/literals.h"
 #include "shell/frm_main.h"
 #include "state/global.h"
@@ -15,17 +16,9 @@
 
 #include <QApplication>
 #include <cstdio>
-#include <ctime>
-#include <functional>
 #include <vector>
 
 namespace {
-
-double ProcessorMilliseconds(const std::function<void()>& work) {
-    const std::clock_t begin = std::clock();
-    work();
-    return 1000.0 * double(std::clock() - begin) / CLOCKS_PER_SEC;
-}
 
 QByteArray RealisticPage(int bytes) {
     QByteArray page = "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\">\r\n<html><body>\r\n";
