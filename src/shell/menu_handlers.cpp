@@ -20,6 +20,7 @@
 #include "state/global.h"
 #include "state/neighbours.h"
 #include "state/windows.h"
+#include "texttools/text_tool_commands.h"
 
 #include <QFileInfo>
 #include <QHash>
@@ -159,6 +160,7 @@ void AddEditHandlers(Handlers& handlers) {
                      {u"Menu_Insert_JavaScript_CurrentVar"_s, [] { Neighbours::InsertCurrentVariable(); }},
                      {u"Menu_Tools_UCaseTags"_s, Menu_Tools_UCaseTags},
                      {u"Menu_Tools_LCaseTags"_s, Menu_Tools_LCaseTags},
+                     {u"Menu_Tools_MadCode"_s, TextTools::Menu_Tools_MadCode},
                      {u"Menu_Menu_Code_Cut"_s, Menu_Edit_Cut_Click},
                      {u"Menu_Menu_Code_Copy"_s, Menu_Edit_Copy_Click},
                      {u"Menu_Menu_Code_Paste"_s, Menu_Edit_Paste_Click}});

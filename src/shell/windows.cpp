@@ -34,6 +34,11 @@
 #include "shell/frm_welcome.h"
 #include "shell/wiring.h"
 #include "state/neighbours.h"
+#include "texttools/frm_delete_comments.h"
+#include "texttools/frm_format_sub_class.h"
+#include "texttools/frm_search.h"
+#include "texttools/frm_spelling_check.h"
+#include "texttools/frm_uml_correction.h"
 
 namespace Wiring {
 
@@ -55,9 +60,6 @@ template<class Window> constexpr Row Shown(QStringView name, QStringView command
 template<class Window> constexpr Row Tool(QStringView name, QStringView command) {
     return {name, command, [] { Shared<Window>().Present(); }, [] { Unload<Window>(); }};
 }
-
-// A window that others speak of and that is not built yet.
-constexpr Row ToCome(QStringView name) { return {name, {}}; }
 
 constexpr Row AllWindows[] = {
     Shown<Frm_Code>(u"Frm_Code", {}, [] { Neighbours::ShowCodeWindow(); }),
@@ -91,9 +93,11 @@ constexpr Row AllWindows[] = {
     Modal<Frm_InsertScript>(u"Frm_InsertScript", u"Menu_Insert_Script"),
     Modal<Frm_InsertStyle>(u"Frm_InsertStyle", u"Menu_Insert_Style"),
     Modal<Frm_DefaultStyles>(u"Frm_DefaultStyles", u"Menu_Insert_StyleDefault"),
-    ToCome(u"Frm_FormatSubClass"),
-    ToCome(u"Frm_Search"),
-    ToCome(u"Frm_UmlCorrection"),
+    Tool<Frm_FormatSubClass>(u"Frm_FormatSubClass", u"Menu_View_FormatSubClass"),
+    Tool<Frm_Search>(u"Frm_Search", u"Menu_Edit_Search"),
+    Modal<Frm_UmlCorrection>(u"Frm_UmlCorrection", u"Menu_Tools_Uml"),
+    Modal<Frm_DeleteComments>(u"Frm_DeleteComments", u"Menu_Tools_DeleteComment"),
+    Modal<Frm_SpellingCheck>(u"Frm_SpellingCheck", u"Menu_Tools_SpellingCheck"),
 };
 
 } // namespace

@@ -11,6 +11,7 @@
 #include "shell/update_check.h"
 #include "state/neighbours.h"
 #include "state/windows.h"
+#include "texttools/text_tool_commands.h"
 
 #include <QCoreApplication>
 
@@ -22,6 +23,7 @@ void WireWindows() {
     WireDebugger();
     Preview::WirePreview();
     Project::WireProject();
+    TextTools::WireTextTools();
     Neighbours::CheckForUpdate.AnsweredBy([] { UpdateCheck::CheckForUpdate(Addresses::UpdateCheck); });
     InstallWindows();
 }

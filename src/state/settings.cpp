@@ -144,6 +144,8 @@ void WriteTools(Writer& file) {
         }
         file.Blank();
     }
+    // Stands only in a file of somebody who has asked for the command.
+    if (Commands::StateOf(u"Menu_Tools_SpellingCheck"_s).visible) file.Truth(u"SpellingMenu", true);
 }
 
 } // namespace
@@ -209,6 +211,7 @@ void LoadSettings() {
         }
     }
     if (read(u"ScriptMenu"_s) == u"True") Commands::SetVisible(u"Menu_Script"_s, true);
+    if (read(u"SpellingMenu"_s) == u"True") Commands::SetVisible(u"Menu_Tools_SpellingCheck"_s, true);
     truth(Global::UseWindowsMenu, u"UseWindowsMenu"_s);
     integer(Global::CurrentTip, u"CurrentTip"_s);
     integer(Global::MaxLinkDeep, u"MaxLinkDeep"_s);
