@@ -8,7 +8,9 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QPainter>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace {
@@ -25,6 +27,20 @@ QString TipFor(QStringView kind) {
     return u"oben und unten ein Frame, dazwischen drei nebeneinander"_s;
 }
 
+// Items that are a picture alone: the chosen one stands on the highlight colour.
+class PictureItems : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem item(option);
+        if (item.state & QStyle::State_Selected)
+            painter->fillRect(item.rect, item.palette.brush(QPalette::Highlight));
+        item.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
+        QStyledItemDelegate::paint(painter, item, index);
+    }
+};
+
 } // namespace
 
 Frm_Frames::Frm_Frames()
@@ -34,6 +50,7 @@ Frm_Frames::Frm_Frames()
     SetHeading(u"insert_frames", u"Frames einfügen..."_s);
     auto* Lvw_Frames = new QListWidget;
     Lvw_Frames->setObjectName(u"Lvw_Frames"_s);
+    Lvw_Frames->setItemDelegate(new PictureItems(Lvw_Frames));
     Lvw_Frames->setViewMode(QListView::IconMode);
     Lvw_Frames->setMovement(QListView::Static);
     Lvw_Frames->setResizeMode(QListView::Adjust);
@@ -41,7 +58,8 @@ Frm_Frames::Frm_Frames()
     Lvw_Frames->setGridSize({92, 80});
     Lvw_Frames->setMinimumSize(3 * 92 + 30, 3 * 80 + 8);
     for (const FrameTexts::Layout& layout : FrameTexts::Layouts()) {
-        auto* item = new QListWidgetItem(Icons::Named(layout.icon), QString(), Lvw_Frames);
+        auto* item = new QListWidgetItem(Lvw_Frames);
+        item->setIcon(Icons::Named(layout.icon));
         item->setData(Qt::UserRole, layout.kind.toString());
         item->setData(Qt::AccessibleTextRole, TipFor(layout.kind));
         item->setToolTip(TipFor(layout.kind));
