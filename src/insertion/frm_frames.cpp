@@ -56,7 +56,7 @@ Frm_Frames::Frm_Frames()
     Lvw_Frames->setResizeMode(QListView::Adjust);
     Lvw_Frames->setIconSize({64, 64});
     Lvw_Frames->setGridSize({92, 80});
-    Lvw_Frames->setMinimumSize(3 * 92 + 30, 3 * 80 + 8);
+    Reserve(Lvw_Frames, {3 * 92 + 30, 3 * 80 + 8});
     for (const FrameTexts::Layout& layout : FrameTexts::Layouts()) {
         auto* item = new QListWidgetItem(Lvw_Frames);
         item->setIcon(Icons::Named(layout.icon));
@@ -72,8 +72,13 @@ Frm_Frames::Frm_Frames()
         Leave();
     };
     connect(Lvw_Frames, &QListWidget::itemDoubleClicked, this, insert);
-    Content()->addWidget(LabelFor(Lvw_Frames, u"Label2"_s, u"Wählen Sie ein Element aus:"_s));
-    Content()->addWidget(Lvw_Frames, 1);
+    auto* Frame1 = new QFrame;
+    Frame1->setObjectName(u"Frame1"_s);
+    auto* choice = new QVBoxLayout(Frame1);
+    choice->setContentsMargins({});
+    choice->addWidget(LabelFor(Lvw_Frames, u"Label2"_s, u"Wählen Sie ein Element aus:"_s));
+    choice->addWidget(Lvw_Frames, 1);
+    Content()->addWidget(Frame1, 1);
     AddControl(0, u"&Einfügen"_s, insert);
     AddControl(1, u"S&chließen"_s, [this] { Leave(); });
     Lvw_Frames->setCurrentRow(0); // what is inserted without a choice
