@@ -11,6 +11,7 @@
 #include "support/test_registry.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QListWidget>
 #include <QTableView>
 
@@ -68,8 +69,19 @@ private slots:
     }
 
     void dialogsInsert() {
+        Shared<Frm_Code>().parentWidget()->showMinimized(); // what is written comes to the front
         In(u"Menu_Insert_Frames"_s, u"Frm_Frames"_s, [](QWidget*) { Driver::Click(u"Cmd_Control_0"_s); });
-        QVERIFY(Box().Text().endsWith(u"\t</frameset>\r\n"));
+        QVERIFY(Box().Text().endsWith(u"\t</frameset>\r\n") &&
+                !Shared<Frm_Code>().parentWidget()->isMinimized());
+        In(u"Menu_Insert_List"_s, u"Frm_List"_s, [](QWidget* dialog) {
+            QVERIFY(QTest::qWaitForWindowActive(dialog)); // a field without the focus completes nothing
+            QWidget* sign = Driver::FindControl(u"Cmb_ListType"_s);
+            sign->setFocus();
+            QTest::keyClick(sign, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClicks(sign, u"A"_s); // not "a", which stands before it
+            QTest::keyClick(sign, Qt::Key_Return);
+        });
+        QVERIFY(Box().Text().endsWith(u"\t<ol type=\"A\">\r\n\t\t<li></li>\r\n\t</ol>"));
         In(u"Menu_Insert_List"_s, u"Frm_List"_s, [](QWidget*) {
             Driver::Find<QLineEdit>(u"Txt_Start"_s)->setText(u"5"_s);
             Driver::Click(u"Opt_ListType_1"_s); // empties the start
@@ -79,11 +91,13 @@ private slots:
         In(u"Menu_Insert_MetaTags"_s, u"Frm_MetaTags"_s, [](QWidget*) {
             auto* list = Driver::Find<QListWidget>(u"Lst_Attributes"_s);
             list->setCurrentRow(0);
-            list->item(0)->setCheckState(Qt::Checked);
+            const QRect row = list->visualItemRect(list->item(1));
+            const QPoint box(row.left() + row.height() / 2, row.center().y());
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, box);
             QTest::keyClicks(Driver::FindControl(u"Txt_AttributeValue"_s), u"ich"_s);
             Driver::Click(u"Cmd_Control_0"_s);
         });
-        QVERIFY(Box().Text().endsWith(u"\t\t<meta name=\"author\" content=\"ich\">\r\n"));
+        QVERIFY(Box().Text().endsWith(u"\t\t<meta name=\"description\" content=\"ich\">\r\n"));
         In(u"Menu_Insert_Style"_s, u"Frm_InsertStyle"_s, [](QWidget* dialog) {
             Driver::Click(u"Chk_Option_0"_s);
             Driver::Click(u"Chk_Option_1"_s);
