@@ -20,7 +20,6 @@
 #include <QPushButton>
 #include <QTableView>
 #include <cmath>
-#include <limits>
 
 namespace {
 
@@ -28,6 +27,7 @@ const QString FileFilter = QStringLiteral("Sorvane HTML Editor Tabelle (*.tbl)|*
 constexpr int FirstRows = 2;
 constexpr int FirstColumns = 2;
 constexpr qint64 MostBytes = 256'000'000; // of a table file
+constexpr int MostOfACell = 1'000'000;    // characters that the field can still show quickly
 
 // The number in a field, made whole; what was there before where it holds none, or one that no grid can show.
 int CountIn(const QLineEdit& field, int before) {
@@ -60,7 +60,7 @@ Frm_Table::Frm_Table()
     Txt_Cols->setObjectName(u"Txt_Cols"_s);
     Txt_FieldText->setObjectName(u"Txt_FieldText"_s);
     Txt_FieldText->setEnabled(false);
-    Txt_FieldText->setMaxLength(std::numeric_limits<int>::max()); // no text of a file is cut
+    Txt_FieldText->setMaxLength(MostOfACell);
     for (QLineEdit* count : {Txt_Rows, Txt_Cols}) count->setMaximumWidth(70);
 
     Content()->addWidget(new QLabel(u"Geben Sie die Größe der Tabelle an:"_s));
@@ -123,14 +123,16 @@ void Frm_Table::Field_Change(const QString& text) {
 
 void Frm_Table::ShowCell() {
     const QModelIndex cell = Flx_Table->currentIndex();
-    const QSignalBlocker quiet(Txt_FieldText); // showing a text is no change of the draft
-    Txt_FieldText->setText(m_model->Draft().Cell(cell.row(), cell.column()));
-    Txt_FieldText->setEnabled(cell.isValid());
+    const QString text = m_model->Draft().Cell(cell.row(), cell.column());
+    const bool fits = text.size() <= MostOfACell; // a longer one of a file stays as it is
+    const QSignalBlocker quiet(Txt_FieldText);    // showing a text is no change of the draft
+    Txt_FieldText->setText(fits ? text : QString());
+    Txt_FieldText->setEnabled(cell.isValid() && fits);
 }
 
 void Frm_Table::EnterCell() {
     ShowCell();
-    if (!Txt_FieldText->isEnabled()) return;
+    if (!Txt_FieldText->isEnabled()) return Flx_Table->setFocus();
     Txt_FieldText->setFocus();
     Txt_FieldText->selectAll();
 }
