@@ -110,7 +110,9 @@ void Frm_Table::Size_Change() {
     m_model->SetSize(rows, columns);
     // the cell stays the current one, and the caret in the count that is being typed
     const QSignalBlocker quiet(Flx_Table->selectionModel());
-    Flx_Table->setCurrentIndex(m_model->index(row, column));
+    const QModelIndex same = m_model->index(row, column);
+    // a grid that has been given none takes its first one as it is entered
+    if (same.isValid()) Flx_Table->setCurrentIndex(same);
     ShowCell();
 }
 
@@ -131,6 +133,8 @@ void Frm_Table::ShowCell() {
 }
 
 void Frm_Table::EnterCell() {
+    // the first cell that the Tab key enters is current, but not marked
+    Flx_Table->selectionModel()->select(Flx_Table->currentIndex(), QItemSelectionModel::ClearAndSelect);
     ShowCell();
     if (!Txt_FieldText->isEnabled()) return Flx_Table->setFocus();
     Txt_FieldText->setFocus();

@@ -98,11 +98,14 @@ private slots:
 
     void tableGoesToAFileAndBack() {
         m_dialogs->ExpectSaveFile(u"Tabelle speichern"_s, m_folder->Path(u"a.tbl"_s));
-        In(u"Menu_Insert_Table_Insert"_s, u"Frm_Table"_s, [](QWidget*) {
+        In(u"Menu_Insert_Table_Insert"_s, u"Frm_Table"_s, [](QWidget* dialog) {
             auto* grid = Driver::Find<QTableView>(u"Flx_Table"_s);
+            QApplication::setActiveWindow(dialog);
             Driver::Find<QLineEdit>(u"Txt_Cols"_s)->setText(u"3"_s);
             Driver::Find<QLineEdit>(u"Txt_Cols"_s)->setText(u"viele"_s); // stays as it was
-            grid->setCurrentIndex(grid->model()->index(0, 0));
+            Driver::FindControl(u"Txt_Cols"_s)->setFocus();
+            QTest::keyClick(Driver::FindControl(u"Txt_Cols"_s), Qt::Key_Tab); // enters the first cell
+            QVERIFY(grid->selectionModel()->isSelected(grid->model()->index(0, 0)));
             QWidget* field = Driver::FindControl(u"Txt_FieldText"_s);
             QTest::keyClicks(field, u"eins"_s);
             QTest::keyClick(field, Qt::Key_Tab);
