@@ -112,11 +112,14 @@ private slots:
 
     void tableGoesToAFileAndBack() {
         m_dialogs->ExpectSaveFile(u"Tabelle speichern"_s, m_folder->Path(u"a.tbl"_s));
-        In(u"Menu_Insert_Table_Insert"_s, u"Frm_Table"_s, [](QWidget*) {
+        In(u"Menu_Insert_Table_Insert"_s, u"Frm_Table"_s, [](QWidget* dialog) {
             auto* grid = Driver::Find<QTableView>(u"Flx_Table"_s);
+            QApplication::setActiveWindow(dialog);
             Driver::Find<QLineEdit>(u"Txt_Cols"_s)->setText(u"3"_s);
             Driver::Find<QLineEdit>(u"Txt_Cols"_s)->setText(u"viele"_s); // stays as it was
-            grid->setCurrentIndex(grid->model()->index(0, 0));
+            Driver::FindControl(u"Txt_Cols"_s)->setFocus();
+            QTest::keyClick(Driver::FindControl(u"Txt_Cols"_s), Qt::Key_Tab); // enters the first cell
+            QVERIFY(grid->selectionModel()->isSelected(grid->model()->index(0, 0)));
             QWidget* field = Driver::FindControl(u"Txt_FieldText"_s);
             QTest::keyClicks(field, u"eins"_s);
             QTest::keyClick(field, Qt::Key_Tab);
@@ -129,6 +132,32 @@ private slots:
         In(u"Menu_Insert_Table_Open"_s, u"Frm_Table"_s, [](QWidget*) { Driver::Click(u"Cmd_Control_0"_s); });
         QVERIFY(Box().Text().contains(
             u"<td>eins</td>\r\n\t\t<td>\u0141</td>\r\n\t\t<td></td>\r\n\t</tr>\r\n\t<tr>"));
+    }
+
+    void tableSurvivesEscAndOtherEditors() {
+        const QString long1 = QString(40'000, u'ä'); // in UTF-8 without a mark
+        m_dialogs->ExpectOpenFile(u"Tabelle öffnen"_s,
+                                  m_folder->Write(u"b.tbl"_s, (long1 + u", b, <e-\n"_s).toUtf8()));
+        m_dialogs->ExpectMessage(u"Tabelle"_s,
+                                 u"Der Entwurf der Tabelle wurde noch nicht gespeichert. Möchten Sie das "
+                                 u"jetzt tun?"_s,
+                                 Dialogs::Answer::Cancel);
+        In(u"Menu_Insert_Table_Open"_s, u"Frm_Table"_s, [](QWidget* dialog) {
+            auto* grid = Driver::Find<QTableView>(u"Flx_Table"_s);
+            QWidget* field = Driver::FindControl(u"Txt_FieldText"_s);
+            grid->setCurrentIndex(grid->model()->index(0, 1));
+            QTest::keyClick(grid, Qt::Key_Delete);
+            QTest::keyClicks(grid, u"c"_s);
+            QTest::keyClick(field, Qt::Key_Backtab);
+            QTest::keyClick(grid, Qt::Key_F2);
+            QTest::keyClicks(field, u"!"_s);
+            Driver::Find<QLineEdit>(u"Txt_Rows"_s)->setText(u"2"_s); // the cell stays the current one
+            QTest::keyClicks(field, u"?"_s);
+            QTest::keyClick(field, Qt::Key_Escape);
+            QVERIFY(dialog->isVisible());
+            Driver::Click(u"Cmd_Control_0"_s);
+        });
+        QVERIFY(Box().Text().contains(u"<td>"_s + long1 + u"!?</td>\r\n\t\t<td>c</td>\r\n"_s));
     }
 
     void designIsCopiedAndLinked() {
