@@ -103,11 +103,12 @@ private slots:
             Driver::Click(u"Chk_Option_1"_s);
             QVERIFY(!Driver::Find<QCheckBox>(u"Chk_Option_0"_s)->isChecked());
             Driver::Click(u"Chk_Option_1"_s);
+            QTest::keyClicks(Driver::FindControl(u"Cmb_Object"_s), u"b"_s); // takes the place of "body"
             Driver::Click(u"Cmd_Control_0"_s);
             QVERIFY(dialog->isVisible());
             Driver::Click(u"Cmd_Control_1"_s);
         });
-        QVERIFY(Box().Text().endsWith(u"\t\t\tbody {\r\n\t\t\t}\r\n"));
+        QVERIFY(Box().Text().endsWith(u"\t\t\tb {\r\n\t\t\t}\r\n"));
     }
 
     void tableGoesToAFileAndBack() {
