@@ -16,11 +16,8 @@ CodeBox* Box() { return Global::CodeWindowOpen ? Neighbours::TheCodeBox() : null
 } // namespace
 
 bool Wrap(const QString& before, const QString& after) {
-    CodeBox* box = Box();
-    if (!box) return false;
-    Undo::PushUndo();
-    box->SetSelText(before + box->SelText() + after);
-    return true;
+    const CodeBox* box = Box();
+    return box && Insert(before + box->SelText() + after);
 }
 
 bool Insert(const QString& text) {
@@ -28,6 +25,7 @@ bool Insert(const QString& text) {
     if (!box) return false;
     Undo::PushUndo();
     box->SetSelText(text);
+    Neighbours::FocusCode();
     return true;
 }
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Where the tools write: at the caret of the code box, each time as one undo step.
+// Where the tools write: at the caret of the code box, each time as one undo step. The code comes to the
+// front with the focus, also when it lay behind another window or was minimised, and when nothing was
+// written.
 #pragma once
 
 #include <QString>

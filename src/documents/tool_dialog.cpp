@@ -9,10 +9,14 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace {
 constexpr int PictureSize = 48; // pixels
+constexpr int LeastHeight = 60; // of a control for which room is reserved
+constexpr int RestHeight = 250; // of the dialog around it, with its frame
 } // namespace
 
 ToolDialog::ToolDialog(const QString& name, const QString& caption, QString line)
@@ -50,6 +54,11 @@ QLabel* ToolDialog::LabelFor(QWidget* control, const QString& name, const QStrin
     if (control->accessibleName().isEmpty())
         control->setAccessibleName(QString(text).remove(u'&').remove(u':'));
     return label;
+}
+
+void ToolDialog::Reserve(QWidget* control, QSize wanted) const {
+    const int room = std::max(LeastHeight, screen()->availableGeometry().height() - RestHeight);
+    control->setMinimumSize(wanted.width(), std::min(wanted.height(), room));
 }
 
 QPushButton* ToolDialog::AddControl(int index, const QString& caption, std::function<void()> press) {

@@ -26,6 +26,8 @@ protected:
     QVBoxLayout* Content() const { return m_content; }
     // A label of that name in front of `control`, whose access key and reader it serves.
     static QLabel* LabelFor(QWidget* control, const QString& name, const QString& text);
+    // Keeps `wanted` pixels free for `control`, less in height where the screen would cut off the buttons.
+    void Reserve(QWidget* control, QSize wanted) const;
     // A button Cmd_Control with the index; the first one is the default.
     QPushButton* AddControl(int index, const QString& caption, std::function<void()> press);
     // Ends the dialog.

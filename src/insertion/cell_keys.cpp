@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "insertion/cell_keys.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTableView>
 
 CellKeys::CellKeys(QTableView* grid, QLineEdit* field) : QObject(grid), m_grid(grid), m_field(field) {
     field->installEventFilter(this);
+    grid->installEventFilter(this);
 }
 
 // To the cell that many rows and columns away; returns whether there is one.
@@ -48,13 +50,36 @@ bool CellKeys::TakeKey(int key, bool shift) {
     }
 }
 
+bool CellKeys::TakeGridKey(QKeyEvent* event) {
+    if (!m_field->isEnabled()) return false; // no cell to write in
+    const QString text = event->text();
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return TakeKey(event->key(), event->modifiers() & Qt::ShiftModifier);
+    case Qt::Key_Delete:
+    case Qt::Key_Backspace:
+        m_field->clear();
+        return true;
+    case Qt::Key_F2:
+        m_field->setFocus();
+        m_field->end(false);
+        return true;
+    default:
+        if (text.isEmpty() || !text.at(0).isPrint()) return false;
+        m_field->setFocus();
+        m_field->selectAll();
+        QCoreApplication::sendEvent(m_field, event);
+        return true;
+    }
+}
+
 bool CellKeys::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (!(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) &&
-            TakeKey(key->key(), key->modifiers() & Qt::ShiftModifier)) {
-            return true;
-        }
+        auto* key = static_cast<QKeyEvent*>(event);
+        const bool plain = !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+        const bool shift = key->modifiers() & Qt::ShiftModifier;
+        if (plain && (watched == m_grid ? TakeGridKey(key) : TakeKey(key->key(), shift))) return true;
     }
     return QObject::eventFilter(watched, event);
 }

@@ -10,7 +10,11 @@
 class EntryList {
 public:
     EntryList(QListWidget* list, QLineEdit* field) : m_list(list), m_field(field) {
-        QObject::connect(list, &QListWidget::itemClicked, list, [this] { Choose(true); });
+        QObject::connect(list, &QListWidget::itemClicked, list, [this](QListWidgetItem* item) {
+            // a click on the check box alone leaves the current entry where it was
+            if (m_list->currentItem() != item) m_list->setCurrentItem(item);
+            Choose(true);
+        });
         QObject::connect(list, &QListWidget::currentItemChanged, list, [this] { Choose(false); });
         QObject::connect(field, &QLineEdit::textEdited, list, [this](const QString& text) {
             QListWidgetItem* item = m_list->currentItem();

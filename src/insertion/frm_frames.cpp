@@ -8,7 +8,9 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QPainter>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace {
@@ -25,6 +27,20 @@ QString TipFor(QStringView kind) {
     return u"oben und unten ein Frame, dazwischen drei nebeneinander"_s;
 }
 
+// Items that are a picture alone: the chosen one stands on the highlight colour.
+class PictureItems : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem item(option);
+        if (item.state & QStyle::State_Selected)
+            painter->fillRect(item.rect, item.palette.brush(QPalette::Highlight));
+        item.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
+        QStyledItemDelegate::paint(painter, item, index);
+    }
+};
+
 } // namespace
 
 Frm_Frames::Frm_Frames()
@@ -34,14 +50,16 @@ Frm_Frames::Frm_Frames()
     SetHeading(u"insert_frames", u"Frames einfügen..."_s);
     auto* Lvw_Frames = new QListWidget;
     Lvw_Frames->setObjectName(u"Lvw_Frames"_s);
+    Lvw_Frames->setItemDelegate(new PictureItems(Lvw_Frames));
     Lvw_Frames->setViewMode(QListView::IconMode);
     Lvw_Frames->setMovement(QListView::Static);
     Lvw_Frames->setResizeMode(QListView::Adjust);
     Lvw_Frames->setIconSize({64, 64});
     Lvw_Frames->setGridSize({92, 80});
-    Lvw_Frames->setMinimumSize(3 * 92 + 30, 3 * 80 + 8);
+    Reserve(Lvw_Frames, {3 * 92 + 30, 3 * 80 + 8});
     for (const FrameTexts::Layout& layout : FrameTexts::Layouts()) {
-        auto* item = new QListWidgetItem(Icons::Named(layout.icon), QString(), Lvw_Frames);
+        auto* item = new QListWidgetItem(Lvw_Frames);
+        item->setIcon(Icons::Named(layout.icon));
         item->setData(Qt::UserRole, layout.kind.toString());
         item->setData(Qt::AccessibleTextRole, TipFor(layout.kind));
         item->setToolTip(TipFor(layout.kind));
@@ -54,8 +72,13 @@ Frm_Frames::Frm_Frames()
         Leave();
     };
     connect(Lvw_Frames, &QListWidget::itemDoubleClicked, this, insert);
-    Content()->addWidget(LabelFor(Lvw_Frames, u"Label2"_s, u"Wählen Sie ein Element aus:"_s));
-    Content()->addWidget(Lvw_Frames, 1);
+    auto* Frame1 = new QFrame;
+    Frame1->setObjectName(u"Frame1"_s);
+    auto* choice = new QVBoxLayout(Frame1);
+    choice->setContentsMargins({});
+    choice->addWidget(LabelFor(Lvw_Frames, u"Label2"_s, u"Wählen Sie ein Element aus:"_s));
+    choice->addWidget(Lvw_Frames, 1);
+    Content()->addWidget(Frame1, 1);
     AddControl(0, u"&Einfügen"_s, insert);
     AddControl(1, u"S&chließen"_s, [this] { Leave(); });
     Lvw_Frames->setCurrentRow(0); // what is inserted without a choice

@@ -29,6 +29,7 @@ Frm_InsertStyle::Frm_InsertStyle()
     Cmb_Object->setObjectName(u"Cmb_Object"_s);
     Cmb_Object->setEditable(true);
     Cmb_Object->setInsertPolicy(QComboBox::NoInsert);
+    Cmb_Object->setCompleter(nullptr); // "b" is an element of its own and not the beginning of "body"
     Lst_AllAttributes->setObjectName(u"Lst_AllAttributes"_s);
     Lst_AllAttributes->setAccessibleName(u"Attribute"_s);
     Lst_AllAttributes->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -58,6 +59,7 @@ void Frm_InsertStyle::OnLoad() {
     Cmb_Object->addItems(objects.entries);
     connect(Cmb_Object, &QComboBox::editTextChanged, this, &Frm_InsertStyle::Cmb_Object_Change);
     Cmb_Object_Change();
+    Cmb_Object->lineEdit()->selectAll();
     if (!objects.whole) Lists::TellBroken(u"styles.lst"_s);
 }
 

@@ -6,6 +6,7 @@
 #include "platform/literals.h"
 
 #include <QComboBox>
+#include <QCompleter>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -27,6 +28,7 @@ Frm_List::Frm_List()
     Opt_ListType_1->setObjectName(u"Opt_ListType_1"_s);
     Cmb_ListType->setObjectName(u"Cmb_ListType"_s);
     Cmb_ListType->setEditable(true);
+    Cmb_ListType->completer()->setCaseSensitivity(Qt::CaseSensitive); // "A" is another sign than "a"
     Txt_Start->setObjectName(u"Txt_Start"_s);
     Content()->addWidget(Opt_ListType_0);
     Content()->addWidget(Opt_ListType_1);

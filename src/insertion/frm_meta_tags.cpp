@@ -21,7 +21,7 @@ Frm_MetaTags::Frm_MetaTags()
       m_entries(Lst_Attributes, Txt_AttributeValue) {
     SetHeading(u"insert_meta", u"Metatags einfügen..."_s);
     Lst_Attributes->setObjectName(u"Lst_Attributes"_s);
-    Lst_Attributes->setMinimumSize(340, 190);
+    Reserve(Lst_Attributes, {340, 190});
     Txt_AttributeValue->setObjectName(u"Txt_AttributeValue"_s);
     Content()->addWidget(
         LabelFor(Lst_Attributes, u"Lbl_Attributes"_s, u"Klicken Sie die benötigten Attribute an:"_s));

@@ -5,6 +5,7 @@
 #include "insertion/cell_keys.h"
 #include "insertion/frm_table_options.h"
 #include "insertion/table_model.h"
+#include "platform/code_page.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/literals.h"
@@ -18,17 +19,20 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
+#include <cmath>
 
 namespace {
 
 const QString FileFilter = QStringLiteral("Sorvane HTML Editor Tabelle (*.tbl)|*.tbl");
 constexpr int FirstRows = 2;
 constexpr int FirstColumns = 2;
+constexpr qint64 MostBytes = 256'000'000; // of a table file
+constexpr int MostOfACell = 1'000'000;    // characters that the field can still show quickly
 
-// The number in a field; what was there before where it holds none, or one that no grid can show.
+// The number in a field, made whole; what was there before where it holds none, or one that no grid can show.
 int CountIn(const QLineEdit& field, int before) {
     double count = before;
-    Attempt([&] { count = Numbers::ReadNumber(field.text()); });
+    Attempt([&] { count = std::nearbyint(Numbers::ReadNumber(field.text())); });
     return count >= 0 && count <= TableDraft::MostCells ? static_cast<int>(count) : before;
 }
 
@@ -56,6 +60,7 @@ Frm_Table::Frm_Table()
     Txt_Cols->setObjectName(u"Txt_Cols"_s);
     Txt_FieldText->setObjectName(u"Txt_FieldText"_s);
     Txt_FieldText->setEnabled(false);
+    Txt_FieldText->setMaxLength(MostOfACell);
     for (QLineEdit* count : {Txt_Rows, Txt_Cols}) count->setMaximumWidth(70);
 
     Content()->addWidget(new QLabel(u"Geben Sie die Größe der Tabelle an:"_s));
@@ -80,10 +85,7 @@ Frm_Table::Frm_Table()
     new CellKeys(Flx_Table, Txt_FieldText);
     connect(Txt_Rows, &QLineEdit::textChanged, this, &Frm_Table::Size_Change);
     connect(Txt_Cols, &QLineEdit::textChanged, this, &Frm_Table::Size_Change);
-    connect(Txt_FieldText, &QLineEdit::textEdited, this, [this](const QString& text) {
-        const QModelIndex cell = Flx_Table->currentIndex();
-        if (cell.isValid()) m_model->SetCell(cell.row(), cell.column(), text);
-    });
+    connect(Txt_FieldText, &QLineEdit::textChanged, this, &Frm_Table::Field_Change);
     connect(Flx_Table, &QTableView::clicked, this, &Frm_Table::EnterCell);
     connect(Flx_Table->selectionModel(), &QItemSelectionModel::currentChanged, this, &Frm_Table::EnterCell);
     m_model->SetSize(FirstRows, FirstColumns);
@@ -95,22 +97,46 @@ void Frm_Table::ShowSize() {
     const QSignalBlocker columns(Txt_Cols);
     Txt_Rows->setText(QString::number(m_model->rowCount()));
     Txt_Cols->setText(QString::number(m_model->columnCount()));
+    Txt_Rows->selectAll(); // where the caret stands first
 }
 
 void Frm_Table::Size_Change() {
     const int rows = CountIn(*Txt_Rows, m_model->rowCount());
     const int columns = CountIn(*Txt_Cols, m_model->columnCount());
     if (qsizetype(rows) * columns > TableDraft::MostCells) return;
+    const QModelIndex cell = Flx_Table->currentIndex();
+    const int row = cell.row();
+    const int column = cell.column();
     m_model->SetSize(rows, columns);
-    Txt_FieldText->clear();
-    Txt_FieldText->setEnabled(false);
+    // the cell stays the current one, and the caret in the count that is being typed
+    const QSignalBlocker quiet(Flx_Table->selectionModel());
+    const QModelIndex same = m_model->index(row, column);
+    // a grid that has been given none takes its first one as it is entered
+    if (same.isValid()) Flx_Table->setCurrentIndex(same);
+    ShowCell();
+}
+
+void Frm_Table::Field_Change(const QString& text) {
+    const QModelIndex cell = Flx_Table->currentIndex();
+    if (!cell.isValid()) return;
+    m_model->SetCell(cell.row(), cell.column(), text);
+    m_changed = true;
+}
+
+void Frm_Table::ShowCell() {
+    const QModelIndex cell = Flx_Table->currentIndex();
+    const QString text = m_model->Draft().Cell(cell.row(), cell.column());
+    const bool fits = text.size() <= MostOfACell; // a longer one of a file stays as it is
+    const QSignalBlocker quiet(Txt_FieldText);    // showing a text is no change of the draft
+    Txt_FieldText->setText(fits ? text : QString());
+    Txt_FieldText->setEnabled(cell.isValid() && fits);
 }
 
 void Frm_Table::EnterCell() {
-    const QModelIndex cell = Flx_Table->currentIndex();
-    Txt_FieldText->setEnabled(cell.isValid());
-    Txt_FieldText->setText(cell.isValid() ? m_model->Draft().Cell(cell.row(), cell.column()) : QString());
-    if (!cell.isValid()) return;
+    // the first cell that the Tab key enters is current, but not marked
+    Flx_Table->selectionModel()->select(Flx_Table->currentIndex(), QItemSelectionModel::ClearAndSelect);
+    ShowCell();
+    if (!Txt_FieldText->isEnabled()) return Flx_Table->setFocus();
     Txt_FieldText->setFocus();
     Txt_FieldText->selectAll();
 }
@@ -124,34 +150,48 @@ void Frm_Table::Insert() {
     Leave();
 }
 
-void Frm_Table::Save() {
+void Frm_Table::reject() {
+    const Dialogs::Message question{
+        u"Tabelle"_s, u"Der Entwurf der Tabelle wurde noch nicht gespeichert. Möchten Sie das jetzt tun?"_s,
+        Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel};
+    const Dialogs::Answer answer = m_changed ? Dialogs::MsgBox(question) : Dialogs::Answer::No;
+    if (answer == Dialogs::Answer::No || (answer == Dialogs::Answer::Yes && Save())) ToolDialog::reject();
+}
+
+// Returns whether the draft is in a file now.
+bool Frm_Table::Save() {
     if (m_model->Draft().HoldsComma()) {
         Dialogs::Tell(
             u"Tabelle speichern"_s,
             u"Die Tabelle kann nicht gespeichert werden, da in mindestens einem Feld ein Komma steht."_s,
             Dialogs::Icon::Exclamation);
-        return;
+        return false;
     }
     const QString path = Dialogs::SaveFileDialog(u"Tabelle speichern"_s, FileFilter);
-    if (path.isEmpty()) return;
-    if (!Dialogs::MayOverwrite(path, Dialogs::Icon::Exclamation, Dialogs::Answer::Yes)) return;
-    WriteFile(path);
+    if (path.isEmpty()) return false;
+    if (!Dialogs::MayOverwrite(path, Dialogs::Icon::Exclamation, Dialogs::Answer::Yes)) return false;
+    return WriteFile(path);
 }
 
-void Frm_Table::WriteFile(const QString& path) {
-    if (Files::WriteProgramText(path, m_model->Draft().FileText())) return;
+bool Frm_Table::WriteFile(const QString& path) {
+    if (Files::WriteProgramText(path, m_model->Draft().FileText())) {
+        m_changed = false;
+        return true;
+    }
     Dialogs::Tell(u"Fehler"_s, u"Fehler beim Speichern der Datei."_s, Dialogs::Icon::Critical);
+    return false;
 }
 
 void Frm_Table::LoadFile() {
     const QString path = Dialogs::OpenFileDialog(u"Tabelle öffnen"_s, FileFilter);
     if (path.isEmpty()) return;
-    const auto text = Files::ReadProgramText(path);
     TableDraft draft = m_model->Draft();
-    const bool whole = text && draft.Read(*text);
+    // other editors leave the file in UTF-8 or UTF-16 behind
+    const auto bytes = Files::SizeOf(path) <= MostBytes ? Files::Read(path) : std::nullopt;
+    const bool whole = bytes && draft.Read(CodePage::Decode(*bytes).text);
     m_model->SetDraft(std::move(draft)); // what could be read stands in the grid
+    m_changed = false;
     ShowSize();
-    Txt_FieldText->clear();
-    Txt_FieldText->setEnabled(false);
+    ShowCell();
     if (!whole) Dialogs::Tell(u"Fehler"_s, u"Fehler beim Laden der Datei."_s, Dialogs::Icon::Critical);
 }

@@ -21,12 +21,17 @@ public:
     // Asks for a table file and fills the grid with it.
     void LoadFile();
 
+    // Esc and the frame's X ask first about a draft that is neither saved nor inserted.
+    void reject() override;
+
 private:
     void Size_Change();
+    void Field_Change(const QString& text);
     void EnterCell();
+    void ShowCell();
     void Insert();
-    void Save();
-    void WriteFile(const QString& path);
+    bool Save();
+    bool WriteFile(const QString& path);
     void ShowSize();
 
     TableModel* m_model;
@@ -35,4 +40,5 @@ private:
     QLineEdit* Txt_Cols;
     QLineEdit* Txt_FieldText;
     TableLook m_look;
+    bool m_changed = false; // since the draft was loaded or saved
 };

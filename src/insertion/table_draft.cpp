@@ -16,26 +16,40 @@ void AddAttribute(QString& text, const QString& name, const QString& value) {
     if (!value.isEmpty()) text += u' ' + name + u"=\""_s + value + u'"';
 }
 
+// The line of a row ends at its first line break, and the file would be another one when it is read.
+QString OnOneLine(QString text) {
+    if (!text.contains(u'\r') && !text.contains(u'\n')) return text;
+    return text.replace(u"\r\n"_s, u" "_s).replace(u'\r', u' ').replace(u'\n', u' ');
+}
+
 } // namespace
 
 void TableDraft::SetSize(int rows, int columns) {
-    rows = std::max(rows, 0);
-    columns = std::max(columns, 0);
-    if (columns == m_columns) {
-        m_cells.resize(static_cast<size_t>(rows) * static_cast<size_t>(columns));
-        m_rows = rows;
+    m_rows = std::max(rows, 0);
+    m_columns = std::max(columns, 0);
+    const int keptRows = std::max(m_rows, m_keptRows);
+    const int keptColumns = std::max(m_columns, m_keptColumns);
+    const bool all = qsizetype(keptRows) * keptColumns <= MostCells;
+    Keep(all ? keptRows : m_rows, all ? keptColumns : m_columns);
+}
+
+// Makes room for so many cells.
+void TableDraft::Keep(int rows, int columns) {
+    const auto count = [](int r, int c) { return static_cast<size_t>(r) * static_cast<size_t>(c); };
+    if (columns == m_keptColumns) {
+        m_cells.resize(count(rows, columns));
+        m_keptRows = rows;
         return;
     }
-    std::vector<QString> cells(static_cast<size_t>(rows) * static_cast<size_t>(columns));
-    for (int row = 0; row < std::min(rows, m_rows); ++row) {
-        for (int column = 0; column < std::min(columns, m_columns); ++column) {
-            cells[static_cast<size_t>(row) * static_cast<size_t>(columns) + static_cast<size_t>(column)] =
-                std::move(m_cells[Index(row, column)]);
+    std::vector<QString> cells(count(rows, columns));
+    for (int row = 0; row < std::min(rows, m_keptRows); ++row) {
+        for (int column = 0; column < std::min(columns, m_keptColumns); ++column) {
+            cells[count(row, columns) + static_cast<size_t>(column)] = std::move(m_cells[Index(row, column)]);
         }
     }
     m_cells = std::move(cells);
-    m_rows = rows;
-    m_columns = columns;
+    m_keptRows = rows;
+    m_keptColumns = columns;
 }
 
 QString TableDraft::Cell(int row, int column) const {
@@ -67,7 +81,12 @@ QString TableDraft::Html(const TableLook& look) const {
 }
 
 bool TableDraft::HoldsComma() const {
-    return std::ranges::any_of(m_cells, [](const QString& cell) { return cell.contains(u','); });
+    for (int row = 0; row < m_rows; ++row) {
+        for (int column = 0; column < m_columns; ++column) {
+            if (m_cells[Index(row, column)].contains(u',')) return true;
+        }
+    }
+    return false;
 }
 
 QString TableDraft::FileText() const {
@@ -75,7 +94,7 @@ QString TableDraft::FileText() const {
     for (int row = 0; row < m_rows; ++row) {
         for (int column = 0; column < m_columns; ++column) {
             const QString& cell = m_cells[Index(row, column)];
-            text += cell.isEmpty() ? EmptyCell : cell;
+            text += cell.isEmpty() ? EmptyCell : OnOneLine(cell);
             text += u", "_s;
         }
         // a table without columns has no last cell to end its rows
@@ -92,24 +111,29 @@ bool TableDraft::Read(const QString& fileText) {
     int column = 0;
     int row = 0;
     bool whole = true;
-    while (const auto item = reader.Next()) {
-        if (*item == RowEnd) {
+    for (;;) {
+        if (column == 0) reader.SkipBlankLines();
+        const auto item = reader.Next();
+        if (!item) break;
+        const bool rowEnds = *item == RowEnd;
+        if (row == 0 && !rowEnds) columns = column + 1;
+        // a row that is hardly begun takes the room of a whole one too
+        whole = (rowEnds || column < columns) && qsizetype(row + 1) * columns <= MostCells;
+        if (!whole) break;
+        if (rowEnds) {
             ++row;
-            cells.resize(static_cast<size_t>(row) *
-                         static_cast<size_t>(columns)); // a short row stays empty behind
+            cells.resize(static_cast<size_t>(row) * static_cast<size_t>(columns));
             column = 0;
             continue;
         }
-        if (row == 0) columns = column + 1;
-        whole = column < columns && cells.size() < static_cast<size_t>(MostCells);
-        if (!whole) break;
         cells.push_back(*item == EmptyCell ? QString() : *item);
         ++column;
     }
+    if (!whole && row == 0) columns = column;
     const int rows = column > 0 ? row + 1 : row; // a last row whose end is missing is a row all the same
     cells.resize(static_cast<size_t>(rows) * static_cast<size_t>(columns));
-    m_rows = columns > 0 ? rows : 0;
-    m_columns = columns;
+    m_rows = m_keptRows = columns > 0 ? rows : 0;
+    m_columns = m_keptColumns = columns;
     m_cells = std::move(cells);
     return whole;
 }

@@ -20,7 +20,9 @@ class TableDraft {
 public:
     int Rows() const { return m_rows; }
     int Columns() const { return m_columns; }
-    // Cells that stay keep their text, new ones are empty. Negative counts are taken for 0.
+    // New cells are empty. Those that fall outside keep their text for the draft that grows again, as a
+    // count that is typed digit by digit makes it, unless that takes more than MostCells. Negative counts
+    // are taken for 0.
     void SetSize(int rows, int columns);
     // The text of a cell; empty outside the draft.
     QString Cell(int row, int column) const;
@@ -31,22 +33,25 @@ public:
 
     // Whether some cell holds a comma, which a table file cannot.
     bool HoldsComma() const;
-    // The contents of the table file.
+    // The contents of the table file, which can hold no line break in a cell: it becomes a blank.
     QString FileText() const;
     // Takes over the contents of a table file. Each item is read as from a comma-separated list: leading
-    // blanks are dropped, and one in double quotes keeps its commas. Returns false for a row with more cells
-    // than the first or a file that would be larger than MostCells; the draft then holds what was read
-    // before.
+    // blanks are dropped, and one in double quotes keeps its commas. Blank lines between rows are none.
+    // Returns false for a row with more cells than the first or a file of more than MostCells; the draft
+    // then holds what was read before.
     bool Read(const QString& fileText);
 
     static constexpr qsizetype MostCells = 4'000'000;
 
 private:
     size_t Index(int row, int column) const {
-        return static_cast<size_t>(row) * static_cast<size_t>(m_columns) + static_cast<size_t>(column);
+        return static_cast<size_t>(row) * static_cast<size_t>(m_keptColumns) + static_cast<size_t>(column);
     }
+    void Keep(int rows, int columns);
 
     int m_rows = 0;
     int m_columns = 0;
-    std::vector<QString> m_cells; // row by row
+    int m_keptRows = 0; // at least as many as there are
+    int m_keptColumns = 0;
+    std::vector<QString> m_cells; // of all kept rows, row by row
 };

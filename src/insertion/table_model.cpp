@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "insertion/table_model.h"
 
+#include <QTextDocument>
+
+namespace {
+constexpr int MostOfATip = 1000; // characters
+} // namespace
+
 void TableModel::SetDraft(TableDraft draft) {
     beginResetModel();
     m_draft = std::move(draft);
@@ -22,5 +28,8 @@ void TableModel::SetCell(int row, int column, const QString& text) {
 
 QVariant TableModel::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
-    return m_draft.Cell(index.row(), index.column());
+    const QString text = m_draft.Cell(index.row(), index.column());
+    if (role == Qt::DisplayRole || text.isEmpty()) return text;
+    // a tip would show code as what it stands for
+    return Qt::convertFromPlainText(text.left(MostOfATip), Qt::WhiteSpaceNormal);
 }

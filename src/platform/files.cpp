@@ -153,8 +153,7 @@ std::optional<QString> ReadProgramText(const QString& path) {
 }
 
 bool WriteProgramText(const QString& path, const QString& text) {
-    if (CodePage::FitsWindows1252(text)) return Write(path, CodePage::ToWindows1252(text));
-    CodePage::Format format{CodePage::Encoding::Utf8, true};
+    CodePage::Format format{CodePage::Encoding::Windows1252, true}; // the mark, should it become UTF-8
     return Write(path, CodePage::Encode(text, format));
 }
 

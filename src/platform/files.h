@@ -29,7 +29,7 @@ std::optional<QByteArray> Read(const QString& path, ReadError* error = nullptr);
 // The text of one of the program's own files, which are Windows-1252, or UTF-8 where a mark says so; nothing
 // on failure.
 std::optional<QString> ReadProgramText(const QString& path);
-// Writes such a file: in UTF-8 with a mark as soon as a character needs it. Otherwise as Write().
+// Writes such a file: in UTF-8 with a mark where its text or its bytes need it. Otherwise as Write().
 bool WriteProgramText(const QString& path, const QString& text);
 // Replaces a file by way of a temporary one and a rename. Written means on the disk: it counts as written
 // only when its last byte has been flushed without an error; until then the old file is whole under its name.

@@ -135,6 +135,8 @@ void MainMenu::ShowState(const QString& name) {
     if (!action) return;
     const Commands::State& state = Commands::StateOf(name);
     action->setEnabled(state.enabled);
+    // a menu that is not closed itself would be opened again with the window, behind the start
+    if (QMenu* menu = action->menu()) menu->setEnabled(state.enabled);
     action->setVisible(state.visible);
     if (action->isCheckable()) action->setChecked(state.checked);
     if (QShortcut* key = m_keys.value(name)) key->setEnabled(!state.enabled);

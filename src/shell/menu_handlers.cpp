@@ -98,9 +98,7 @@ void Menu_Tools_Tramlink() {
 }
 
 void Menu_Insert_StyleTag() {
-    if (!InsertionPoint::Insert(InsertTexts::StyleTag())) return;
-    InsertionPoint::MoveBack(InsertTexts::BehindStyle);
-    Neighbours::FocusCode();
+    if (InsertionPoint::Insert(InsertTexts::StyleTag())) InsertionPoint::MoveBack(InsertTexts::BehindStyle);
 }
 
 // The wizard with the draft of a table file in it.

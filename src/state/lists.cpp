@@ -18,6 +18,17 @@ std::optional<QString> ReadList(const QString& fileName) {
 
 } // namespace
 
+void TokenReader::SkipBlankLines() {
+    for (qsizetype at = m_at; at < m_text.size(); ++at) {
+        const QChar c = m_text.at(at);
+        if (c == u'\r' || c == u'\n') {
+            m_at = at + 1;
+        } else if (c != u' ') {
+            return;
+        }
+    }
+}
+
 std::optional<QString> TokenReader::Next() {
     const auto isLineEnd = [](QChar c) { return c == u'\r' || c == u'\n'; };
     const auto skipBlanks = [this] {

@@ -27,6 +27,8 @@ class TokenReader {
 public:
     explicit TokenReader(QString text) : m_text(std::move(text)) {}
     std::optional<QString> Next(); // nothing at the end of the file
+    // Steps over line ends and blanks in front of the next token, which would be empty ones.
+    void SkipBlankLines();
 
 private:
     QString m_text;

@@ -32,12 +32,18 @@ private slots:
     void keepsCellsOverASizeChange() {
         TableDraft draft;
         QVERIFY(draft.Read(u"a, b, <e-\r\nc, d, <e-\r\n"_s));
+        draft.SetCell(1, 1, u"d,"_s);
         draft.SetSize(3, 1);
         QCOMPARE(Cells(draft), u"a/c/"_s);
-        draft.SetSize(1, 3);
-        QCOMPARE(Cells(draft), u"a||"_s);
+        QVERIFY(!draft.HoldsComma());
+        draft.SetSize(1, 3); // as "12" is typed
+        QCOMPARE(Cells(draft), u"a|b|"_s);
         draft.SetSize(-1, 2);
         QCOMPARE(draft.Rows(), 0);
+        draft.SetSize(12, 2);
+        QVERIFY(Cells(draft).startsWith(u"a|b/c|d,/|/"));
+        draft.SetSize(1, TableDraft::MostCells); // no room for the outer ones
+        QCOMPARE(draft.Cell(0, 1), u"b"_s);
     }
 
     void readsFiles_data() {
@@ -54,6 +60,7 @@ private slots:
         row("quotation mark without end", u"\"a, b, <e-\r\nc"_s, u"a, b, <e-\r\nc"_s, true);
         row("no row end", u"a,b,c"_s, u"a|b|c"_s, true);
         row("lf alone", u"a, <e-\nb, <e-\n"_s, u"a/b"_s, true);
+        row("blank lines", u"\r\na, b, <e-\r\n  \r\n\r\n, d, <e-\r\n\r\n"_s, u"a|b/|d"_s, true);
         row("empty", {}, {}, true);
     }
     void readsFiles() {
@@ -70,8 +77,21 @@ private slots:
         TableDraft again;
         QVERIFY(again.Read(draft.FileText()));
         QVERIFY(again.Rows() == 1000 && again.Columns() == 100 && Cells(again) == Cells(draft));
+        draft.SetCell(3, 3, u"a\r\nb"_s); // pasted from two lines
+        QVERIFY(again.Read(draft.FileText()));
+        QCOMPARE(again.Cell(3, 3), u"a b"_s);
         draft.SetCell(3, 3, u"a,b"_s);
         QVERIFY(draft.HoldsComma() && !again.HoldsComma());
+    }
+
+    void refusesMoreThanItHolds() {
+        TableDraft draft;
+        const int columns = 1000;
+        const QString rowEnds = u"<e-\r\n"_s.repeated(TableDraft::MostCells / columns + 1);
+        QVERIFY(!draft.Read(u"a, "_s.repeated(columns) + rowEnds)); // each of 5 bytes is a row of 1000 cells
+        QCOMPARE(draft.Rows(), int(TableDraft::MostCells / columns));
+        QVERIFY(!draft.Read(QString(TableDraft::MostCells + 1, u',')));
+        QCOMPARE(draft.Columns(), int(TableDraft::MostCells));
     }
 };
 

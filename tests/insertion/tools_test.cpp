@@ -11,6 +11,7 @@
 #include "support/test_registry.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QListWidget>
 #include <QTableView>
 
@@ -68,8 +69,19 @@ private slots:
     }
 
     void dialogsInsert() {
+        Shared<Frm_Code>().parentWidget()->showMinimized(); // what is written comes to the front
         In(u"Menu_Insert_Frames"_s, u"Frm_Frames"_s, [](QWidget*) { Driver::Click(u"Cmd_Control_0"_s); });
-        QVERIFY(Box().Text().endsWith(u"\t</frameset>\r\n"));
+        QVERIFY(Box().Text().endsWith(u"\t</frameset>\r\n") &&
+                !Shared<Frm_Code>().parentWidget()->isMinimized());
+        In(u"Menu_Insert_List"_s, u"Frm_List"_s, [](QWidget* dialog) {
+            QVERIFY(QTest::qWaitForWindowActive(dialog)); // a field without the focus completes nothing
+            QWidget* sign = Driver::FindControl(u"Cmb_ListType"_s);
+            sign->setFocus();
+            QTest::keyClick(sign, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClicks(sign, u"A"_s); // not "a", which stands before it
+            QTest::keyClick(sign, Qt::Key_Return);
+        });
+        QVERIFY(Box().Text().endsWith(u"\t<ol type=\"A\">\r\n\t\t<li></li>\r\n\t</ol>"));
         In(u"Menu_Insert_List"_s, u"Frm_List"_s, [](QWidget*) {
             Driver::Find<QLineEdit>(u"Txt_Start"_s)->setText(u"5"_s);
             Driver::Click(u"Opt_ListType_1"_s); // empties the start
@@ -79,30 +91,36 @@ private slots:
         In(u"Menu_Insert_MetaTags"_s, u"Frm_MetaTags"_s, [](QWidget*) {
             auto* list = Driver::Find<QListWidget>(u"Lst_Attributes"_s);
             list->setCurrentRow(0);
-            list->item(0)->setCheckState(Qt::Checked);
+            const QRect row = list->visualItemRect(list->item(1));
+            const QPoint box(row.left() + row.height() / 2, row.center().y());
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, box);
             QTest::keyClicks(Driver::FindControl(u"Txt_AttributeValue"_s), u"ich"_s);
             Driver::Click(u"Cmd_Control_0"_s);
         });
-        QVERIFY(Box().Text().endsWith(u"\t\t<meta name=\"author\" content=\"ich\">\r\n"));
+        QVERIFY(Box().Text().endsWith(u"\t\t<meta name=\"description\" content=\"ich\">\r\n"));
         In(u"Menu_Insert_Style"_s, u"Frm_InsertStyle"_s, [](QWidget* dialog) {
             Driver::Click(u"Chk_Option_0"_s);
             Driver::Click(u"Chk_Option_1"_s);
             QVERIFY(!Driver::Find<QCheckBox>(u"Chk_Option_0"_s)->isChecked());
             Driver::Click(u"Chk_Option_1"_s);
+            QTest::keyClicks(Driver::FindControl(u"Cmb_Object"_s), u"b"_s); // takes the place of "body"
             Driver::Click(u"Cmd_Control_0"_s);
             QVERIFY(dialog->isVisible());
             Driver::Click(u"Cmd_Control_1"_s);
         });
-        QVERIFY(Box().Text().endsWith(u"\t\t\tbody {\r\n\t\t\t}\r\n"));
+        QVERIFY(Box().Text().endsWith(u"\t\t\tb {\r\n\t\t\t}\r\n"));
     }
 
     void tableGoesToAFileAndBack() {
         m_dialogs->ExpectSaveFile(u"Tabelle speichern"_s, m_folder->Path(u"a.tbl"_s));
-        In(u"Menu_Insert_Table_Insert"_s, u"Frm_Table"_s, [](QWidget*) {
+        In(u"Menu_Insert_Table_Insert"_s, u"Frm_Table"_s, [](QWidget* dialog) {
             auto* grid = Driver::Find<QTableView>(u"Flx_Table"_s);
+            QApplication::setActiveWindow(dialog);
             Driver::Find<QLineEdit>(u"Txt_Cols"_s)->setText(u"3"_s);
             Driver::Find<QLineEdit>(u"Txt_Cols"_s)->setText(u"viele"_s); // stays as it was
-            grid->setCurrentIndex(grid->model()->index(0, 0));
+            Driver::FindControl(u"Txt_Cols"_s)->setFocus();
+            QTest::keyClick(Driver::FindControl(u"Txt_Cols"_s), Qt::Key_Tab); // enters the first cell
+            QVERIFY(grid->selectionModel()->isSelected(grid->model()->index(0, 0)));
             QWidget* field = Driver::FindControl(u"Txt_FieldText"_s);
             QTest::keyClicks(field, u"eins"_s);
             QTest::keyClick(field, Qt::Key_Tab);
@@ -115,6 +133,32 @@ private slots:
         In(u"Menu_Insert_Table_Open"_s, u"Frm_Table"_s, [](QWidget*) { Driver::Click(u"Cmd_Control_0"_s); });
         QVERIFY(Box().Text().contains(
             u"<td>eins</td>\r\n\t\t<td>\u0141</td>\r\n\t\t<td></td>\r\n\t</tr>\r\n\t<tr>"));
+    }
+
+    void tableSurvivesEscAndOtherEditors() {
+        const QString long1 = QString(40'000, u'ä'); // in UTF-8 without a mark
+        m_dialogs->ExpectOpenFile(u"Tabelle öffnen"_s,
+                                  m_folder->Write(u"b.tbl"_s, (long1 + u", b, <e-\n"_s).toUtf8()));
+        m_dialogs->ExpectMessage(u"Tabelle"_s,
+                                 u"Der Entwurf der Tabelle wurde noch nicht gespeichert. Möchten Sie das "
+                                 u"jetzt tun?"_s,
+                                 Dialogs::Answer::Cancel);
+        In(u"Menu_Insert_Table_Open"_s, u"Frm_Table"_s, [](QWidget* dialog) {
+            auto* grid = Driver::Find<QTableView>(u"Flx_Table"_s);
+            QWidget* field = Driver::FindControl(u"Txt_FieldText"_s);
+            grid->setCurrentIndex(grid->model()->index(0, 1));
+            QTest::keyClick(grid, Qt::Key_Delete);
+            QTest::keyClicks(grid, u"c"_s);
+            QTest::keyClick(field, Qt::Key_Backtab);
+            QTest::keyClick(grid, Qt::Key_F2);
+            QTest::keyClicks(field, u"!"_s);
+            Driver::Find<QLineEdit>(u"Txt_Rows"_s)->setText(u"2"_s); // the cell stays the current one
+            QTest::keyClicks(field, u"?"_s);
+            QTest::keyClick(field, Qt::Key_Escape);
+            QVERIFY(dialog->isVisible());
+            Driver::Click(u"Cmd_Control_0"_s);
+        });
+        QVERIFY(Box().Text().contains(u"<td>"_s + long1 + u"!?</td>\r\n\t\t<td>c</td>\r\n"_s));
     }
 
     void designIsCopiedAndLinked() {

@@ -47,6 +47,10 @@ private slots:
         QCOMPARE(Files::List(folder.Path(u"."_s), {}), QStringList{u"page.htm"_s}); // nothing left over
         QVERIFY(!Files::Write(folder.Path(u"none/page.htm"_s), "x"));
         QVERIFY(!Files::Write(folder.Path(u"."_s), "x"));
+        for (const QString& text : {u"ï»¿a"_s, u"ÿþab"_s, u"Ã¼"_s, u"Ä\u0141"_s}) { // some begin as marks do
+            QVERIFY(Files::WriteProgramText(page, text));
+            QCOMPARE(Files::ReadProgramText(page).value_or(QString()), text);
+        }
     }
 
     void writesThroughLinks() {

@@ -53,7 +53,8 @@ private slots:
             QVERIFY(main.isMaximized()); // as on every first run
             QCOMPARE(main.windowTitle(), Global::ProgramName);
             QCOMPARE(main.Status()->Panel(1), u"Bereit"_s);
-            QVERIFY(!Driver::IsEnabled(u"Menu_File_Save"_s) && Driver::IsEnabled(u"Menu_File_Open"_s));
+            QVERIFY(!Driver::IsEnabled(u"Menu_File_Save"_s) && !Driver::IsEnabled(u"Menu_Insert"_s) &&
+                    Driver::IsEnabled(u"Menu_File_Open"_s));
             QVERIFY(!Driver::IsEnabled(u"Menu_Tools_Tramlink"_s));
             for (const QAction* action : main.findChild<QToolBar*>(u"ToolBar"_s)->actions())
                 QVERIFY(action->isSeparator() || (!action->toolTip().isEmpty() && !action->icon().isNull()));
