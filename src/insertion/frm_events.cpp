@@ -20,7 +20,8 @@ protected:
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
     void keyPressEvent(QKeyEvent* event) override {
         const bool steps = event->key() >= Qt::Key_Home && event->key() <= Qt::Key_PageDown;
-        const bool letter = !event->text().isEmpty() && event->text().at(0).isLetter();
+        const bool plain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+        const bool letter = plain && !event->text().isEmpty() && event->text().at(0).isLetter();
         if (!steps && !letter) return QComboBox::keyPressEvent(event);
         showPopup();
         if (letter) QCoreApplication::sendEvent(view(), event);
