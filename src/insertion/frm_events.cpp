@@ -38,6 +38,8 @@ Frm_Events::Frm_Events()
     Cmb_Event->setObjectName(u"Cmb_Event"_s);
     Cmb_Event->setAccessibleName(u"Event"_s);
     Cmb_Event->setMinimumContentsLength(18);
+    Cmb_Event->setMaxVisibleItems(16);
+    Cmb_Event->setStyleSheet(u"combobox-popup: 0"_s); // a list with a scroll bar, not as high as the screen
     const size_t count =
         std::min<size_t>(Global::EventNameList[0].toUInt(), Global::EventNameList.size() - 1);
     for (size_t i = 1; i <= count; ++i) Cmb_Event->addItem(Global::EventNameList[i]);
