@@ -10,10 +10,13 @@
 #include "support/scripted_dialogs.h"
 #include "support/test_registry.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
+#include <QScreen>
 #include <QTableView>
+#include <QWheelEvent>
 
 class Tools : public QObject {
     Q_OBJECT
@@ -66,6 +69,33 @@ private slots:
         Documents::OpenFile(m_folder->Path(u"seite.htm"_s));
         QVERIFY(Loaded<Frm_TagTools>());
         QCOMPARE(Shared<Frm_TagTools>().pos(), QPoint(77, 88));
+        const QSize preset = Shared<Frm_TagTools>().size();
+        Unload<Frm_TagTools>();
+        Global::TagToolPos =
+            Global::ToolPos{u""_s, u"99999"_s, u"-99999"_s, u"10"_s, u"0"_s}; // nothing that could be seen
+        Driver::Trigger(u"Menu_View_TagTools"_s);
+        QCOMPARE(Shared<Frm_TagTools>().size(), preset);
+        QVERIFY(Shared<Frm_TagTools>().screen()->geometry().contains(Shared<Frm_TagTools>().geometry()));
+    }
+
+    void keysStayWithTheCode() {
+        for (const QString& tool : {u"Menu_View_Events"_s, u"Menu_View_ColorStandard"_s})
+            Driver::Trigger(tool);
+        QWidget* color = Driver::FindControl(u"Frm_Color"_s);
+        QApplication::setActiveWindow(color);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_E,
+                        Qt::AltModifier); // not the menu of that letter
+        QVERIFY(Box().Text().endsWith(u"\r\n#000000"));
+        QApplication::setActiveWindow(color); // the desktop was late to do what the click asked for
+        QTRY_VERIFY(color->parentWidget()->isActiveWindow());
+        QTest::keyClicks(color, u" x"_s); // nothing in the window wants them
+        QVERIFY(Box().Text().endsWith(u"\r\n#000000 x"));
+        QWidget* events = Driver::FindControl(u"Cmb_Event"_s);
+        QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(events, &wheel);
+        QTest::keyClick(events, Qt::Key_Down); // opens the list and chooses nothing
+        QVERIFY(Box().Text().endsWith(u"\r\n#000000 x"));
     }
 
     void dialogsInsert() {

@@ -122,7 +122,8 @@ private slots:
         const Driver::RunningProgram program;
         Documents::OpenFile(folder.Write(u"seite.htm"_s, "alt\r\n"));
         Driver::TypeCode(u"neu "_s);
-        Global::AutoPreView = true; // shows whether the settings were written
+        Driver::Trigger(u"Menu_View_Events"_s); // whose place shows whether the settings were written
+        Driver::FindControl(u"Frm_Events"_s)->move(77, 88);
         if (!possible) Global::CurrentFile = folder.Path(u"weg\\seite.htm"_s);
         dialogs.ExpectMessage(
             u"Beenden"_s, u"Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?"_s,
@@ -136,7 +137,7 @@ private slots:
         QVERIFY(!Shared<Frm_Main>().isVisible());
         QCOMPARE(folder.Read(u"seite.htm"_s),
                  save && possible ? QByteArray("neu alt\r\n") : QByteArray("alt\r\n"));
-        QCOMPARE(folder.Read(u"edit.ini"_s).contains("AutoPreView=True"), possible);
+        QCOMPARE(folder.Read(u"edit.ini"_s).contains("EventToolLeft=1155\r\nEventToolTop=1320"), possible);
         QCOMPARE(folder.Read(u"bckup.tmp"_s), possible ? QByteArray() : QByteArray("neu alt\r\n\r\n"));
         QVERIFY(!folder.Has(u"tmp"_s) && !folder.Has(u"temp.htm"_s));
     }
