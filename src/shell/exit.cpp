@@ -26,8 +26,8 @@ bool Frm_Main::Exit() {
     if (m_ending) return true;
     m_ending = true;
     // each keeps its place as it goes, for the settings to write
-    for (const QString& tool :
-         {u"Frm_Color"_s, u"Frm_KCC"_s, u"Frm_TagTools"_s, u"Frm_Events"_s, u"Frm_Characters"_s}) {
+    for (const QString& tool : {u"Frm_Color"_s, u"Frm_KCC"_s, u"Frm_TagTools"_s, u"Frm_Events"_s,
+                                u"Frm_Characters"_s, u"Frm_FormatSubClass"_s, u"Frm_Navigation"_s}) {
         Windows::Unload(tool);
     }
     bool write = true;
