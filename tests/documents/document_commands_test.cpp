@@ -348,6 +348,7 @@ private slots:
             } else { // a page is known again by its own doctype
                 QCOMPARE(DocumentFile::TypeByMarker(m_box->Text()), type);
             }
+            QCOMPARE(m_box->Text().endsWith(u'\n'), type == u"WML");
             QVERIFY(type != u"WML" || !m_box->Text().contains(u'\t'));
         }
         QVERIFY(Templates::Html({u"Verein"_s, {}, {}, {}}).contains(u"<title>Verein</title>"));

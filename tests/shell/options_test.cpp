@@ -145,6 +145,7 @@ private slots:
         row("beyond the range", "99999", "1", "", 32767, 1);
         row("no depth", "", "50", "Txt_LinkDeep", 3, 80);
         row("depth 0, and the other bad too", "0", "0", "Txt_LinkDeep", 3, 80);
+        row("depth below 0", "-4", "50", "Txt_LinkDeep", 3, 80);
         row("accuracy 0", "2", "0", "Txt_DebugAccuracy", 3, 80);
         row("accuracy above 100", "2", "101", "Txt_DebugAccuracy", 3, 80);
         row("huge accuracy", "2", "9999999999", "Txt_DebugAccuracy", 3, 80);
