@@ -37,7 +37,6 @@ private slots:
     void blocks_data() {
         const auto row = Columns<QString, QStringList>("css", "rows");
         row("no colon", "a{color}", {});
-        row("tidy", "a:hover{color:red;}", {});
         row("blank before the value", "a{color: red;}", {Blank(" red", 8)});
         row("no value", "a{color:;}", {Missing("", 8)});
         row("blanks for a value", "a{color:   ;}", {Missing("   ", 8)});

@@ -254,6 +254,7 @@ private slots:
         QVERIFY(WaitForTitle(u"Heil"_s));
     }
 
+    // Their menu items are closed, and yet their keys say what there is to say.
     void keysGoOnForStylesAndScripts() {
         Documents::OpenFile(m_folder->Write(u"stil.css"_s, "a{b:c}\r\n"));
         QStringList shown;
