@@ -1,14 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The insertion tools by their controls, in the real program.
-#include "documents/document_commands.h"
-#include "documents/frm_code.h"
 #include "insertion/frm_tag_tools.h"
-#include "platform/literals.h"
-#include "state/global.h"
-#include "support/driver.h"
-#include "support/program_folder.h"
-#include "support/scripted_dialogs.h"
-#include "support/test_registry.h"
+#include "support/program_test.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -18,14 +11,9 @@
 #include <QTableView>
 #include <QWheelEvent>
 
-class Tools : public QObject {
+class Tools : public ProgramTest {
     Q_OBJECT
 
-    std::unique_ptr<ProgramFolder> m_folder;
-    std::unique_ptr<ScriptedDialogs> m_dialogs;
-    std::unique_ptr<Driver::RunningProgram> m_program;
-
-    static Txt_Code& Box() { return *Shared<Frm_Code>().TextBox; }
     // Opens the dialog by its command and clicks what `inside` clicks.
     static void In(const QString& command, const QString& dialog, std::function<void(QWidget*)> inside) {
         Driver::InModal(dialog, std::move(inside));
@@ -34,21 +22,11 @@ class Tools : public QObject {
     }
 
 private slots:
-    void init() {
-        m_folder = std::make_unique<ProgramFolder>();
-        m_dialogs = std::make_unique<ScriptedDialogs>();
-        m_program = std::make_unique<Driver::RunningProgram>();
-        Global::AutoDebug = Global::AutoProjectManager = false;
+    void init() override {
+        ProgramTest::init();
         Documents::OpenFile(m_folder->Write(u"seite.htm"_s, "-//W3C//DTD HTML <head>\r\nhier"));
-        Box().SetSelStart(Box().Text().size() - 4);
-        Box().SetSelLength(4);
+        Select(Box().Text().size() - 4, 4);
     }
-    void cleanup() {
-        m_program.reset();
-        m_dialogs.reset();
-        m_folder.reset();
-    }
-
     void toolWindowsInsertAndComeBack() {
         Driver::Trigger(u"Menu_View_TagTools"_s);
         QVERIFY(Global::TagToolOpen);
