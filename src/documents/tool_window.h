@@ -4,6 +4,10 @@
 #include "platform/window.h"
 #include "state/tool_place.h"
 
+#include <QElapsedTimer>
+
+class QAbstractButton;
+
 // What makes one tool window differ from another.
 struct ToolKind {
     QString name; // of the window: "Frm_TagTools"
@@ -33,6 +37,7 @@ protected:
     void Wrap(const QString& before, const QString& after); // around the selection
     void Insert(const QString& text);                       // in place of the selection
 
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -41,6 +46,9 @@ private:
     // Moves the window below the other tools that stand on the very same spot, as all do before they have been
     // moved for the first time.
     void StepAside();
+    // The button that a key presses: the one with the focus or that with the access key; none for other keys.
+    QAbstractButton* ButtonFor(const QKeyEvent& event) const;
 
     const ToolKind m_kind;
+    QElapsedTimer m_wentBack; // since the keys went back to the code
 };

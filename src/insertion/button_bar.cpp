@@ -30,6 +30,8 @@ void ButtonBar::Add(QStringView key, QStringView tip, QStringView icon, std::fun
     m_buttons.append(button);
 }
 
+QSize ButtonBar::minimumSizeHint() const { return ButtonSize; }
+
 int ButtonBar::Columns() const { return std::max(1, width() / ButtonSize.width()); }
 
 void ButtonBar::resizeEvent(QResizeEvent*) {

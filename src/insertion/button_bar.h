@@ -14,6 +14,9 @@ public:
     // A button that carries the bar's name, an underscore and `key`.
     void Add(QStringView key, QStringView tip, QStringView icon, std::function<void()> press);
 
+    // One button.
+    QSize minimumSizeHint() const override;
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

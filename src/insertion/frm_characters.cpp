@@ -15,6 +15,7 @@ Frm_Characters::Frm_Characters()
         Tlb_Characters->Add(button.key, button.tip, button.icon,
                             [this, key = button.key] { Insert(TagTexts::EntityFor(key)); });
     }
+    setMinimumSize(Tlb_Characters->minimumSizeHint());
 }
 
 void Frm_Characters::resizeEvent(QResizeEvent*) { Tlb_Characters->setGeometry(rect()); }

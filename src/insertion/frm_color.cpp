@@ -34,7 +34,7 @@ Frm_Color::Frm_Color()
     }
     Pic_ShowColor->setObjectName(u"Pic_ShowColor"_s);
     Pic_ShowColor->setMinimumWidth(56);
-    Pic_ShowColor->setFrameShape(QFrame::StyledPanel);
+    Pic_ShowColor->setFrameStyle(QFrame::Box | QFrame::Plain); // an edge for every colour on every window
     all->addWidget(Pic_ShowColor, 0, 2, 3, 1);
     auto* insert = new QPushButton(u"&Einfügen"_s);
     insert->setObjectName(u"Cmd_Control"_s);

@@ -33,7 +33,7 @@ Frm_InsertStyle::Frm_InsertStyle()
     Lst_AllAttributes->setObjectName(u"Lst_AllAttributes"_s);
     Lst_AllAttributes->setAccessibleName(u"Attribute"_s);
     Lst_AllAttributes->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    Lst_AllAttributes->setMinimumSize(380, 190);
+    Reserve(Lst_AllAttributes, {380, 190});
     Txt_AttributeValue->setObjectName(u"Txt_AttributeValue"_s);
     Chk_Option_0->setObjectName(u"Chk_Option_0"_s);
     Chk_Option_1->setObjectName(u"Chk_Option_1"_s);

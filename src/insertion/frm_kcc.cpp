@@ -59,7 +59,7 @@ Frm_KCC::Frm_KCC()
     }
     all->addLayout(colors, 0, 0, 1, 3);
     Picture1->setObjectName(u"Picture1"_s);
-    Picture1->setFrameShape(QFrame::StyledPanel);
+    Picture1->setFrameStyle(QFrame::Box | QFrame::Plain);
     Picture1->setMinimumSize(48, 24);
     all->addWidget(Picture1, 1, 0);
     all->addWidget(Txt_ColorName, 1, 1);

@@ -51,7 +51,7 @@ Frm_Table::Frm_Table()
     Flx_Table->setObjectName(u"Flx_Table"_s);
     Flx_Table->setAccessibleName(u"Tabelle"_s);
     Flx_Table->setModel(m_model);
-    Flx_Table->setMinimumSize(430, 190);
+    Reserve(Flx_Table, {430, 190});
     Flx_Table->setSelectionMode(QAbstractItemView::SingleSelection);
     Flx_Table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     Flx_Table->setTabKeyNavigation(false);

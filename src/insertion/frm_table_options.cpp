@@ -34,6 +34,7 @@ Frm_TableOptions::Frm_TableOptions()
     Txt_BackColor->setObjectName(u"Txt_BackColor"_s);
     Cmb_Default->setObjectName(u"Cmb_Default"_s);
     Cmb_Default->setEditable(true);
+    Cmb_Default->setCompleter(nullptr); // what is typed stands, and not an entry that begins like it
     Cmb_Default->addItems({QString(), u"&nbsp;"_s});
     auto* form = new QFormLayout;
     form->addRow(LabelFor(Txt_Width, u"Lbl_Width"_s, u"Breite:"_s), Txt_Width);

@@ -19,6 +19,7 @@ Frm_TagTools::Frm_TagTools()
             Wrap(pair.before, pair.after);
         });
     }
+    setMinimumSize(Tlb_Tag->minimumSizeHint());
 }
 
 void Frm_TagTools::resizeEvent(QResizeEvent*) { Tlb_Tag->setGeometry(rect()); }

@@ -25,7 +25,11 @@ void Frm_Main::closeEvent(QCloseEvent* event) {
 bool Frm_Main::Exit() {
     if (m_ending) return true;
     m_ending = true;
-    for (const QString& tool : {u"Frm_Color"_s, u"Frm_KCC"_s, u"Frm_TagTools"_s}) Windows::Unload(tool);
+    // each keeps its place as it goes, for the settings to write
+    for (const QString& tool : {u"Frm_Color"_s, u"Frm_KCC"_s, u"Frm_TagTools"_s, u"Frm_Events"_s,
+                                u"Frm_Characters"_s, u"Frm_FormatSubClass"_s, u"Frm_Navigation"_s}) {
+        Windows::Unload(tool);
+    }
     bool write = true;
     if (Global::DocChanged) {
         const auto answer = Dialogs::MsgBox(

@@ -7,23 +7,37 @@
 #include "platform/twips.h"
 
 #include <QWidget>
+#include <algorithm>
+#include <optional>
 
 namespace ToolPlace {
+
+namespace {
+
+// Further than any desktop reaches; twips.
+constexpr double FarAway = 1e6;
+
+// The value that the settings hold, if it is a number; one past all reason is cut to what a screen can hold.
+std::optional<double> Kept(const QString& text) {
+    std::optional<double> value;
+    Attempt([&] { value = std::clamp(Numbers::ReadNumber(text), -FarAway, FarAway); });
+    return value;
+}
+
+} // namespace
 
 QSize Inner(double width, double height) {
     return {Twips::ToPixels(width - BorderWidth), Twips::ToPixels(height - BorderHeight)};
 }
 
 void Restore(QWidget& window, const Global::ToolPos& place, Keeps keeps, QSize preset) {
-    double left = Twips::FromPixels(window.x());
-    double top = Twips::FromPixels(window.y());
+    const double left = Kept(place[1]).value_or(Twips::FromPixels(window.x()));
+    const double top = Kept(place[2]).value_or(Twips::FromPixels(window.y()));
     double width = preset.width();
     double height = preset.height();
-    Attempt([&] { left = Numbers::ReadNumber(place[1]); });
-    Attempt([&] { top = Numbers::ReadNumber(place[2]); });
     if (keeps == Keeps::PlaceAndSize) {
-        Attempt([&] { width = Numbers::ReadNumber(place[3]); });
-        Attempt([&] { height = Numbers::ReadNumber(place[4]); });
+        if (const auto kept = Kept(place[3]); kept > BorderWidth) width = *kept;
+        if (const auto kept = Kept(place[4]); kept > BorderHeight) height = *kept;
     }
     const QSize inner = width > 0 && height > 0 ? Inner(width, height) : window.size();
     const QSize frame(Twips::ToPixels(BorderWidth), Twips::ToPixels(BorderHeight));

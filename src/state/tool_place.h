@@ -21,7 +21,8 @@ QSize Inner(double width, double height);
 enum class Keeps { Place, PlaceAndSize };
 
 // Puts the window where it stood, whole on its screen. `preset` is its outer size in twips where none is
-// kept; an empty one leaves the size as it is. Values that are no numbers count as missing.
+// kept; an empty one leaves the size as it is. Values that are no numbers, and sizes that leave
+// nothing inside the frame, count as missing.
 void Restore(QWidget& window, const Global::ToolPos& place, Keeps keeps, QSize preset = {});
 // Writes the window's place into the elements 1 and 2, its size into 3 and 4.
 void Store(const QWidget& window, Global::ToolPos& place, Keeps keeps);

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "assistant/frm_assistant.h"
 
-#include "documents/new_documents.h"
+#include "assistant/frm_help.h"
 #include "platform/events.h"
-#include "state/commands.h"
-#include "support/main_window_test.h"
+#include "support/program_test.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -13,8 +12,10 @@
 #include <QMovie>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QWebEnginePage>
+#include <QWebEngineView>
 
-class FrmAssistant : public MainWindowTest {
+class FrmAssistant : public ProgramTest {
     Q_OBJECT
 
     static QString Said() { return Driver::Find<QPlainTextEdit>(u"Lbl_HelpText"_s)->toPlainText(); }
@@ -23,10 +24,8 @@ class FrmAssistant : public MainWindowTest {
     static QWidget* Frame() { return Shared<Frm_Assistant>().parentWidget(); }
 
 private slots:
-    void init() { MakeFolder(); }
-    void cleanup() { End(); }
-
     void standsAtTheRightEdgeAndGivesRoom() {
+        m_program.reset();
         Global::AutoMaximize = true;
         StartProgram();
         QVERIFY(Global::AssistantOpen); // the settings say so from the start
@@ -63,7 +62,6 @@ private slots:
     }
 
     void speaksAndMoves() {
-        StartProgram();
         Neighbours::RunAnimation(1, u"Erste Zeile\r\n\r\n<b>kein Markup</b> &amp;"_s);
         QCOMPARE(Said(), u"Erste Zeile\n\n<b>kein Markup</b> &amp;"_s);
         QCOMPARE(Figure(), u"anim3.anm"_s);
@@ -80,6 +78,7 @@ private slots:
         double now = 40000;
         const auto restore = qScopeGuard(
             [before = Events::Replace({{}, [&now] { return now; }, {}})] { Events::Replace(before); });
+        m_program.reset();
         StartProgram();
         QCOMPARE(Player()->state(), QMovie::NotRunning);
         now += 4;
@@ -96,7 +95,6 @@ private slots:
     }
 
     void explainsTags() {
-        StartProgram();
         Documents::CreateNewTextFile();
         auto* search = Driver::Find<QLineEdit>(u"Txt_SearchText"_s);
         Driver::Click(u"Cmd_UserHelp_2"_s);
@@ -106,16 +104,14 @@ private slots:
         const QString table = Said();
         QVERIFY(table.contains(u"Tabelle"));
         // a marked tag goes before the typed one
-        Shared<Frm_Code>().TextBox->SetText(u"<IMG>"_s);
-        Shared<Frm_Code>().TextBox->SetSelStart(1);
-        Shared<Frm_Code>().TextBox->SetSelLength(3);
+        Box().SetText(u"<IMG>"_s);
+        Select(1, 3);
         Driver::Click(u"Cmd_UserHelp_2"_s);
         QVERIFY(Said() != table && !Said().isEmpty());
         QCOMPARE(Figure(), u"anim3.anm"_s);
     }
 
     void showsTips() {
-        StartProgram();
         Global::CurrentTip = 0;
         auto* tip = Driver::FindControl(u"Cmd_UserHelp_0"_s);
         QTest::mouseClick(tip, Qt::LeftButton);
@@ -127,7 +123,6 @@ private slots:
     }
 
     void aLongTextScrollsInASmallWindow() {
-        StartProgram();
         Shared<Frm_Main>().resize(700, 460);
         const auto* text = Driver::Find<QPlainTextEdit>(u"Lbl_HelpText"_s);
         Neighbours::RunAnimation(2, u"Ein sehr langer Text. "_s.repeated(60) + QString(500, u'x'));
@@ -137,6 +132,7 @@ private slots:
     }
 
     void aMissingHelpFileIsToldOnce() {
+        m_program.reset();
         QFile::remove(m_folder->System(u"assistant.hlp"_s));
         m_dialogs->ExpectMessage(
             u"Fehler"_s,
@@ -150,6 +146,42 @@ private slots:
         Neighbours::RunAnimation(2, u"ohne Figur"_s); // the present figure does instead
         QCOMPARE(Said(), u"ohne Figur"_s);
         QVERIFY(Player()->isValid());
+    }
+
+    void helpShowsItsPagesAndSendsTheRestOutside() {
+        const QByteArray style = "<style>body { margin: 0 } a { display: block; height: 100px }</style>";
+        m_folder->Write(u"support/index.htm"_s, "<title>Hilfe</title>" + style +
+                                                    "<a href=zwei.htm>2</a>"
+                                                    "<a href='http://www.example.org/a?b=c%20d'>web</a>");
+        m_folder->Write(u"support/zwei.htm"_s, "<title>Zwei</title>" + style +
+                                                   "<a target=_blank href=index.htm>1</a>"
+                                                   "<a href='mailto:a@example.org'>mail</a>"
+                                                   "<a target=_blank href='http://www.example.org/'>web</a>");
+        Driver::Trigger(u"Menu_Help_Index"_s);
+        QVERIFY(Shared<Frm_Help>().isVisible());
+        QCOMPARE(Shared<Frm_Help>().windowTitle(), u"Sorvane HTML Editor 3.0 Hilfe"_s);
+        auto* view = Driver::Find<QWebEngineView>(u"Browser"_s);
+        const auto shows = [view](const QString& title) {
+            return QTest::qWaitFor([&] { return view->title() == title; }, Patience) &&
+                   Driver::FeelsTheMouse(view);
+        };
+        const auto follow = [view](int band) { // into the band of the page that the link fills
+            QTest::mouseClick(view->focusProxy(), Qt::LeftButton, {}, QPoint(60, 50 + 100 * band));
+        };
+        const auto sends = [&](int band, const QString& address) {
+            m_dialogs->ExpectAddress(address);
+            follow(band);
+            return QTest::qWaitFor([&] { return m_dialogs->Finished(); }, Patience);
+        };
+        QVERIFY(shows(u"Hilfe"_s));
+        QVERIFY(sends(1, u"http://www.example.org/a?b=c%20d"_s));
+        QCOMPARE(view->title(), u"Hilfe"_s);
+        follow(0);
+        QVERIFY(shows(u"Zwei"_s));
+        QVERIFY(sends(1, u"mailto:a@example.org"_s));
+        QVERIFY(sends(2, u"http://www.example.org/"_s));
+        follow(0); // a link into a window of its own
+        QVERIFY(shows(u"Hilfe"_s));
     }
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "debugger/html_check.h"
 #include "report_text.h"
-#include "support/test_registry.h"
+#include "support/test.h"
 
 namespace {
 
@@ -42,50 +42,46 @@ class HtmlCheck : public QObject {
 
 private slots:
     void smallPages_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("rows");
-        const auto row = [](const char* name, const QString& text, const QStringList& rows = {}) {
-            QTest::newRow(name) << text << rows;
+        const auto page = Columns<QString, QStringList>("text", "rows");
+        const auto row = [&](const char* name, const QString& text, const QStringList& rows = {}) {
+            page(name, text, rows);
         };
-        row("text alone", u"Er sagte > \"nein\"."_s);
-        row("case is of no account", u"<B>x</b >"_s);
-        row("no nesting rule", u"<b><a></b></a>"_s);
-        row("the oldest open tag is closed", u"<b><b></b>"_s, {NotClosed(u"b"_s, 4)});
-        row("reported as written", u"\r\n<B>"_s, {NotClosed(u"B"_s, 3)});
-        row("closed too often", u"<b></b></B>"_s, {TooOften(u"/B"_s, 8)});
-        row("closed before it is opened", u"</b><b>"_s, {TooOften(u"/b"_s, 1), NotClosed(u"b"_s, 5)});
-        row("empty elements", u"<!DOCTYPE html><br/><br /><br><BR\r\nclear>"_s);
-        row("closing of an empty element", u"</br>"_s, {TooOften(u"/br"_s, 1), NeedsNone(u"/br"_s, 1)});
-        row("closing of one that stands open", u"<br></br>"_s, {NeedsNone(u"/br"_s, 5)});
-        row("unknown", u"a<xy>"_s, {Unknown(u"xy"_s, 2), NotClosed(u"xy"_s, 2)});
-        row("unknown and closed too often", u"</xy>"_s, {TooOften(u"/xy"_s, 1), Unknown(u"/xy"_s, 1)});
-        row("closing form of the last known tag", u"<i></i>"_s, {Unknown(u"/i"_s, 4)});
-        row("name up to white space", u"<p\r\nalign=left></p\r\n><p\talign=left></p\t>"_s);
-        row("name of a line break first", u"<\r\np></p>"_s,
-            {Unknown(u"\r\np"_s, 1), TooOften(u"/p"_s, 6), NotClosed(u"\r\np"_s, 1)});
-        row("slash before a line break stays", u"<p/\r\n></p>"_s,
-            {Unknown(u"p/"_s, 1), TooOften(u"/p"_s, 7), NotClosed(u"p/"_s, 1)});
-        row("no end at the end of the page", u"<b></b><p"_s);
-        row("ended by a blank alone", u"<p "_s, {NotClosed(u"p"_s, 1)});
-        row("tag in a value", u"<a href=<xy>></a>"_s, {Unknown(u"xy"_s, 9), NotClosed(u"xy"_s, 9)});
-        row("tag in a script", u"if (a<b )"_s, {NotClosed(u"b"_s, 6)});
-        row("no name", u"<></>"_s, {Unknown(u""_s, 1), Unknown(u""_s, 3)});
-        row("processing instruction", u"<?xml ?>"_s, {Unknown(u"?xml"_s, 1)});
-        row("comments hide tags and quotation marks", u"<!-- <xy> \" --><b></b>"_s);
-        row("shortest comment", u"<!--><b></b>"_s);
-        row("comment without an end hides the rest", u"<b></b><!-- <xy> \""_s, {CommentNotClosed});
-        row("comment closed too often", u"<!-- a --> b -->"_s, {CommentClosedTooOften});
-        row("only the totals of comments count", u"--> <!--"_s);
-        row("odd quotation marks", u"<a href=\"x></a>"_s, {OddQuotes});
-        row("what stands before a comment stays open", u"\" <!-- \" --> \"\""_s, {OddQuotes});
-        row("quotation marks right behind a comment", u"<!-- -->\"\""_s);
-        row("a comment that opens and closes at once", u"<!--><!-->"_s);
-        row("the name of blanked entries in a page", u"<<[nothing]-><b></b></<[NOTHING]->"_s,
-            {Unknown(u"<[nothing]-"_s, 1), Unknown(u"/<[NOTHING]-"_s, 21)});
-        row("an entry of their name", u"<<[NOTHING]->"_s, {Unknown(u"<[NOTHING]-"_s, 1)});
-        row("but only as it is written", u"<<[nothing]->"_s,
-            {Unknown(u"<[nothing]-"_s, 1), NotClosed(u"<[nothing]-"_s, 1)});
-        row("their name finds one", u"<b></b></<[NOTHING]->"_s, {Unknown(u"/<[NOTHING]-"_s, 8)});
+        row("neither case nor nesting counts", "<B><a>x</b ></a>");
+        row("the oldest open tag is closed", "<b><b></b>", {NotClosed("b", 4)});
+        row("reported as written", "\r\n<B>", {NotClosed("B", 3)});
+        row("closed too often", "<b></b></B>", {TooOften("/B", 8)});
+        row("closed before it is opened", "</b><b>", {TooOften("/b", 1), NotClosed("b", 5)});
+        row("empty elements", "<!DOCTYPE html><br/><br /><br><BR\r\nclear>");
+        row("closing of an empty element", "</br>", {TooOften("/br", 1), NeedsNone("/br", 1)});
+        row("closing of one that stands open", "<br></br>", {NeedsNone("/br", 5)});
+        row("unknown and closed too often", "</xy>", {TooOften("/xy", 1), Unknown("/xy", 1)});
+        row("closing form of the last known tag", "<i></i>", {Unknown("/i", 4)});
+        row("name up to white space", "<p\r\nalign=left></p\r\n><p\talign=left></p\t>");
+        row("name of a line break first", "<\r\np></p>",
+            {Unknown("\r\np", 1), TooOften("/p", 6), NotClosed("\r\np", 1)});
+        row("slash before a line break stays", "<p/\r\n></p>",
+            {Unknown("p/", 1), TooOften("/p", 7), NotClosed("p/", 1)});
+        row("no end at the end of the page", "<b></b><p");
+        row("ended by a blank alone", "<p ", {NotClosed("p", 1)});
+        row("tag in a value", "<a href=<xy>></a>", {Unknown("xy", 9), NotClosed("xy", 9)});
+        row("no name", "<></>", {Unknown("", 1), Unknown("", 3)});
+        row("processing instruction", "<?xml ?>", {Unknown("?xml", 1)});
+        row("comments hide tags and quotation marks", "<!-- <xy> \" --><b></b>");
+        row("comment without an end hides the rest", "<b></b><!-- <xy> \"", {CommentNotClosed});
+        row("comment closed too often", "<!-- a --> b -->", {CommentClosedTooOften});
+        row("only the totals of comments count", "--> <!--");
+        row("odd quotation marks", "<a href=\"x></a>", {OddQuotes});
+        row("what stands before a comment stays open", "\" <!-- \" --> \"\"", {OddQuotes});
+        row("quotation marks right behind a comment", "<!-- -->\"\"");
+        row("the name of blanked entries in a page", "<<[nothing]-><b></b></<[NOTHING]->",
+            {Unknown("<[nothing]-", 1), Unknown("/<[NOTHING]-", 21)});
+        row("an entry of their name", "<<[NOTHING]->", {Unknown("<[NOTHING]-", 1)});
+        row("but only as it is written", "<<[nothing]->",
+            {Unknown("<[nothing]-", 1), NotClosed("<[nothing]-", 1)});
+        row("their name finds one", "<b></b></<[NOTHING]->", {Unknown("/<[NOTHING]-", 8)});
+        row("a name over two entries", "<b-/b>", {NotClosed(u"b-/b"_s, 1)});
+        row("a name with a delimiter", "<b->", {Unknown(u"b-"_s, 1), NotClosed(u"b-"_s, 1)});
+        row("a part of an entry", "<!DOC>", {Unknown(u"!DOC"_s, 1), NotClosed(u"!DOC"_s, 1)});
         // the scan creeps up to a closing that it cannot count, and past it
         const QString most = u"-->"_s.repeated(32767);
         row("as many closings as can be counted", most, {CommentClosedTooOften});
@@ -105,6 +101,33 @@ private slots:
         QVERIFY(rows[1].contains(u"Der Tag </"_s + name.first(254) + u"> wurde zu oft geschlossen|/" + name));
         QCOMPARE(rows[3], NotClosed(name, 1));
         QCOMPARE(Checked(u'<' + name.first(255) + u"></"_s + name + u'>').counts.unclosedTags, 0);
+    }
+
+    void pagesUnderTheShippedLists_data() {
+        const auto row = Columns<QString, QStringList>("page", "rows"); // without what all rows begin with
+        row("hidden script", "<script>/*<![CDATA[*/\r\nif (a < b) c();\r\n/*]]>*/</script>", {});
+        row("hidden style", "<style>/*<![CDATA[*/ p { } /*]]>*/</style>", {});
+        row("twice hidden", "<script><!--//--><![CDATA[//><!--\r\nd\r\n//--><!]]></script>", {});
+        row("server comment", "<%-- a --%><p>b</p>", {});
+        row("comparison", "<script>if (a < b && c <d) e();</script>",
+            {"unbekannter Tag: <d)>|d)|24", "Der Tag <d)> wurde nicht geschlossen.|d)|24"});
+        row("empty WML elements", "<onevent><go href=\"#a\"/></onevent><do><prev/></do><p>a<br/></p>", {});
+        row("an open card", "<wml><card><p>a</p></wml>", {"Der Tag <card> wurde nicht geschlossen.|card|6"});
+        row("an element that may hold others", "<do><go href=\"a\"><postfield/></go></do>",
+            {"Der Tag </go> muss nicht geschlossen werden|/go|30"});
+        row("font", "<svg><font><font-face/><missing-glyph/><glyph/></font></svg>", {});
+        row("formula", "<math><apply><plus/></apply></math>", {});
+        row("names of no standard", "<piecewice>",
+            {"unbekannter Tag: <piecewice>|piecewice|1",
+             "Der Tag <piecewice> wurde nicht geschlossen.|piecewice|1"});
+    }
+    void pagesUnderTheShippedLists() {
+        QFETCH(QString, page);
+        const ProgramFolder folder;
+        QVERIFY(Lists::LoadTagList() && Lists::LoadNoCloseTags());
+        Debugger::Report report;
+        Debugger::CheckHTML(page, 100, {Global::KnownTagString, Global::NoCloseTagString}, report);
+        QTEST(RowTexts(report).replaceInStrings(u"Error3|     "_s, QString()), "rows");
     }
 
     // Nothing that depends on the whole page is reported then.

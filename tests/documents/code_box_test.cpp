@@ -2,9 +2,7 @@
 // One contract for every code box: told by the one on screen, and the one without agrees with it.
 #include "documents/code_box.h"
 
-#include "documents/text_buffer.h"
 #include "documents/txt_code.h"
-#include "platform/text.h"
 #include "support/test.h"
 
 #include <QClipboard>
@@ -22,7 +20,6 @@ private slots:
         box.events.change = [&] { ++changes; };
         box.SetText(u"eins\nzwei\rdrei"_s);
         QCOMPARE(box.Text(), u"eins\r\nzwei\r\ndrei"_s);
-        QCOMPARE(box.SelStart(), 0);
         QCOMPARE(changes, 1);
         box.SetSelStart(6);
         box.SetSelLength(4);
@@ -65,6 +62,7 @@ private slots:
         odd += u"end";
         box.SetText(odd);
         QCOMPARE(box.Text(), odd);
+        QCOMPARE(box.Text().constData(), box.Text().constData()); // reading copies nothing
         box.SetSelStart(odd.size());
         box.SetSelText(odd);
         QCOMPARE(box.Text(), QString(odd + odd));
@@ -104,12 +102,6 @@ private slots:
             QCOMPARE(screenChanges, plainChanges);
         }
         QVERIFY(plain.Text().size() > 20);
-    }
-
-    void copiesNothingByReading() {
-        Txt_Code box;
-        box.SetText(QString(1000, u'x'));
-        QCOMPARE(box.Text().constData(), box.Text().constData());
     }
 
     void tellsVisualLines() {
@@ -164,8 +156,8 @@ private slots:
 
     void takesWhatIsTypedAndPasted() {
         Txt_Code box;
-        QList<QPair<int, int>> keys;
-        box.events.keyDown = [&](int key, int shift) { keys << qMakePair(key, shift); };
+        QStringList keys;
+        box.events.keyDown = [&](int key, int shift) { keys << u"%1+%2"_s.arg(key).arg(shift); };
         box.show();
         QTest::keyClicks(&box, u"ab"_s);
         QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
@@ -173,15 +165,14 @@ private slots:
         QTest::keyClick(&box, Qt::Key_5, Qt::ControlModifier);
         QTest::keyClick(&box, Qt::Key_Space, Qt::ControlModifier);
         QCOMPARE(box.Text(), u"ab\r\n\t "_s);
-        for (const auto& key : {qMakePair(13, 1), qMakePair(9, 0), qMakePair(53, 2), qMakePair(32, 2)})
-            QVERIFY(keys.contains(key));
+        for (const QString& key : {u"13+1"_s, u"9+0"_s, u"53+2"_s, u"32+2"_s})
+            QVERIFY2(keys.contains(key), qPrintable(key));
         QGuiApplication::clipboard()->setText(u"x\u00A0y\nz"_s);
         box.paste();
         QCOMPARE(box.Text(), u"ab\r\n\t x\u00A0y\r\nz"_s);
         box.selectAll();
-        box.copy();
-        QCOMPARE(QGuiApplication::clipboard()->text(), u"ab\n\t x\u00A0y\nz"_s);
         box.cut();
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"ab\n\t x\u00A0y\nz"_s);
         QCOMPARE(box.Text(), QString());
         box.undo();
         QCOMPARE(box.Text(), u"ab\r\n\t x\u00A0y\r\nz"_s);

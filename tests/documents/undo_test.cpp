@@ -1,19 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "documents/undo.h"
 
-#include "documents/text_buffer.h"
 #include "documents/text_history.h"
-#include "support/test.h"
+#include "support/folder_test.h"
 
 #include <QRandomGenerator>
 #include <deque>
 
 // A code box whose changes take undo copies as the document window's do.
-class UndoTest : public QObject {
+class UndoTest : public FolderTest {
     Q_OBJECT
-
-    std::unique_ptr<ProgramFolder> m_folder;
-    std::unique_ptr<TextBuffer> m_box;
 
     void Type(const QString& key) {
         Undo::PushUndo(); // the key preview
@@ -21,9 +17,8 @@ class UndoTest : public QObject {
     }
 
 private slots:
-    void init() {
-        m_folder = std::make_unique<ProgramFolder>(ProgramFolder::Content::Empty);
-        m_box = std::make_unique<TextBuffer>();
+    void init() override {
+        FolderTest::init();
         m_box->change = [] {
             if (Global::SkipUndoOnChange) {
                 Global::SkipUndoOnChange = false;
@@ -31,11 +26,9 @@ private slots:
                 Undo::PushUndo();
             }
         };
-        Neighbours::TheCodeBox.AnsweredBy([this] { return m_box.get(); });
         Global::CodeWindowOpen = true;
         Undo::UndoClear();
     }
-    void cleanup() { m_folder.reset(); }
 
     void bringsBackTheTextBeforeAKey() {
         m_box->SetText(u"seite"_s);

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Typing in the real document window, with all its aids.
-#include "documents/document_commands.h"
-#include "documents/new_documents.h"
 #include "documents/undo.h"
 #include "editing/frm_line_zoom.h"
 #include "editing/popup_list.h"
 #include "platform/drop_down_list.h"
-#include "shell/frm_main.h"
 #include "shell/main_menu.h"
 #include "support/program_test.h"
 
@@ -21,10 +18,6 @@ class Typing : public ProgramTest {
     void Open(const QString& name, const QByteArray& text, qsizetype caret = 0) {
         Documents::OpenFile(m_folder->Write(name, text));
         Box().SetSelStart(caret);
-    }
-    static void Select(qsizetype start, qsizetype length) {
-        Box().SetSelStart(start);
-        Box().SetSelLength(length);
     }
     static QPoint PlaceOf(qsizetype position) {
         Box().SetSelStart(position);
@@ -92,24 +85,27 @@ private slots:
         Select(0, 3);
         Driver::PressCode(Qt::Key_Tab); // does not replace the selection
         QCOMPARE(Box().Text(), u"\tabcdef"_s);
+        Driver::Trigger(u"Menu_Edit_SelectAll"_s);
+        Driver::Trigger(u"Menu_Edit_Cut"_s);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"\tabcdef"_s);
+        QGuiApplication::clipboard()->setText(u"a\nb"_s);
+        Driver::Trigger(u"Menu_Edit_Paste"_s);
+        QCOMPARE(Box().Text(), u"a\r\nb"_s);
     }
 
     void leavesUndoneUmlautsAlone() {
         Open(u"a.htm"_s, "");
         Driver::Trigger(u"Menu_Tools_AutoUml"_s);
-        const auto undo = [] { Driver::PressCode(Qt::Key_Z, Qt::ControlModifier); };
-        const auto redo = [] { QTest::keySequence(&Box(), QKeySequence::Redo); };
         Driver::TypeCode(u"Grü"_s);
         QCOMPARE(Box().Text(), u"Grue"_s);
-        undo(); // one step takes the substitution back
-        QCOMPARE(Box().Text(), u"Grü"_s);
-        undo();
-        QCOMPARE(Box().Text(), QString());
-        redo();
-        QCOMPARE(Box().Text(), u"Grü"_s);
-        redo();
-        QCOMPARE(Box().Text(), u"Grue"_s);
-        undo();
+        for (const auto& [back, text] : {std::pair(true, u"Grü"_s), // one step takes the substitution back
+                                         {true, u""_s},
+                                         {false, u"Grü"_s},
+                                         {false, u"Grue"_s},
+                                         {true, u"Grü"_s}}) {
+            QTest::keySequence(&Box(), back ? QKeySequence::Undo : QKeySequence::Redo);
+            QCOMPARE(Box().Text(), text);
+        }
         Driver::TypeCode(u"n"_s);
         QCOMPARE(Box().Text(), u"Grün"_s);
         Driver::TypeCode(u"&ö"_s); // what is typed from then on is substituted
@@ -129,9 +125,8 @@ private slots:
         Open(u"a.htm"_s, "<table border=1><b>x</b></table>");
         RightClick(3);
         QVERIFY(MenuEntries().contains(u"width"_s));
-        for (QAction* action : Shared<Frm_Main>().Commands()->CodeMenu()->actions()) {
+        for (QAction* action : Shared<Frm_Main>().Commands()->CodeMenu()->actions())
             if (action->text() == u"width") action->trigger();
-        }
         QCOMPARE(Box().Text(), u"<table width=\"\" border=1><b>x</b></table>"_s);
         QCOMPARE(Box().SelStart(), 14); // between the quotes
         RightClick(29);                 // between two tags
@@ -267,28 +262,24 @@ private slots:
         QCOMPARE(Box().Text(), QString(u"vorher\r\n"_s + line + u"\r\nnachher"_s));
     }
 
-    void everyWayOutSaves_data() {
-        const auto row = Columns<QString, int, QString>("command", "key", "result");
-        row("Enter", "Menu_View_Zoom", int(Qt::Key_Return), "ab\r\nX\r\ncd\r\nef");
-        row("number block", "Menu_Menu_Code_Zoom", int(Qt::Key_Enter), "ab\r\nX\r\ncd\r\nef");
-        row("Escape", "Menu_View_Zoom", int(Qt::Key_Escape), "ab\r\nXcd\r\nef");
-        row("close button", "Menu_Menu_Code_Zoom", 0, "ab\r\nXcd\r\nef");
-    }
     void everyWayOutSaves() {
-        QFETCH(QString, command);
-        QFETCH(int, key);
-        Documents::CreateNewTextFile();
-        Box().SetText(u"ab\r\ncd\r\nef"_s);
-        Global::DocChanged = false;
-        InZoom(command, 5, [key](QWidget*) {
-            QTest::keyClicks(Zoom(), u"X"_s);
-            if (key != 0) QTest::keyClick(Zoom(), static_cast<Qt::Key>(key));
-        });
-        QVERIFY(!Loaded<Frm_LineZoom>());
-        QTEST(Box().Text(), "result");
-        QVERIFY(Global::DocChanged);
-        Undo::UndoStep();
-        QCOMPARE(Box().Text(), u"ab\r\ncd\r\nef"_s);
+        for (const auto& [command, key, result] :
+             {std::tuple(u"Menu_View_Zoom"_s, int(Qt::Key_Return), u"ab\r\nX\r\ncd\r\nef"_s),
+              {u"Menu_Menu_Code_Zoom"_s, int(Qt::Key_Enter), u"ab\r\nX\r\ncd\r\nef"_s},
+              {u"Menu_View_Zoom"_s, int(Qt::Key_Escape), u"ab\r\nXcd\r\nef"_s},
+              {u"Menu_Menu_Code_Zoom"_s, 0, u"ab\r\nXcd\r\nef"_s}}) { // 0: the close button
+            Documents::CreateNewTextFile();
+            Box().SetText(u"ab\r\ncd\r\nef"_s);
+            Global::DocChanged = false;
+            InZoom(command, 5, [key = key](QWidget*) {
+                QTest::keyClicks(Zoom(), u"X"_s);
+                if (key != 0) QTest::keyClick(Zoom(), static_cast<Qt::Key>(key));
+            });
+            QVERIFY2(!Loaded<Frm_LineZoom>() && Global::DocChanged, qPrintable(QKeySequence(key).toString()));
+            QCOMPARE(Box().Text(), result);
+            Undo::UndoStep();
+            QCOMPARE(Box().Text(), u"ab\r\ncd\r\nef"_s);
+        }
     }
 
     void remembersItsPlace() {
@@ -305,22 +296,21 @@ private slots:
         QCOMPARE(Global::LineZoomPos, stored); // neither creeps nor grows from one time to the next
     }
 
-    void comesBackToSightFromStrangePlaces_data() {
-        const auto row = Columns<QStringList>("place");
-        row("beyond the screen", {"900000", "900000", "6000", "1500"});
-        row("huge", {"0", "0", "9000000", "9000000"});
-        row("no numbers", {"links", "oben", "breit", "hoch"});
-        row("negative", {"-90000", "-90000", "-5", "-5"});
-    }
     void comesBackToSightFromStrangePlaces() {
-        QFETCH(QStringList, place);
         Documents::CreateNewTextFile();
-        for (int i = 0; i < 4; ++i) Global::LineZoomPos[static_cast<size_t>(i + 1)] = place[i];
-        InZoom(u"Menu_View_Zoom"_s, 0, [](QWidget* window) {
-            QVERIFY(window->screen()->availableGeometry().contains(window->pos()));
-            QVERIFY(window->width() >= 100 && window->width() <= window->screen()->size().width());
-            QVERIFY(window->height() >= 30 && window->height() <= window->screen()->size().height());
-        });
+        for (const auto& [left, top, width, height] :
+             {std::tuple(u"900000"_s, u"900000"_s, u"6000"_s, u"1500"_s),
+              {u"0"_s, u"0"_s, u"9000000"_s, u"9000000"_s},
+              {u"links"_s, u"oben"_s, u"breit"_s, u"hoch"_s},
+              {u"-90000"_s, u"-90000"_s, u"-5"_s, u"-5"_s}}) {
+            Global::LineZoomPos = {QString(), left, top, width, height};
+            InZoom(u"Menu_View_Zoom"_s, 0, [name = left](QWidget* window) {
+                const QRect screen = window->screen()->availableGeometry();
+                QVERIFY2(screen.contains(window->pos()), qPrintable(name));
+                QVERIFY2(window->width() >= 100 && window->width() <= screen.width(), qPrintable(name));
+                QVERIFY2(window->height() >= 30 && window->height() <= screen.height(), qPrintable(name));
+            });
+        }
     }
 };
 

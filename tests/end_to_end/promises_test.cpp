@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What is promised about the user's text and files, kept by the real program.
-#include "documents/document_commands.h"
 #include "documents/recovery.h"
-#include "platform/files.h"
 #include "platform/screen_place.h"
-#include "shell/frm_main.h"
-#include "shell/status_bar.h"
-#include "shell/wiring.h"
 #include "support/program_test.h"
 #include "support/small_disk.h"
 
@@ -14,8 +9,6 @@ class Promises : public ProgramTest {
     Q_OBJECT
 
     static inline const QByteArray Picture = QByteArray("GIF89a\1\0\1\0\x80\r\0\xFF\n\xFF\0\0\0;", 20);
-    static inline const QString Unsaved =
-        QStringLiteral("Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?");
 
 private slots:
     void beginsAHistoryWithEachDocument() {
@@ -36,6 +29,38 @@ private slots:
         m_folder->Write(u"bckup.tmp"_s, "<p>dritte " + shared);
         Recovery::Menu_File_RestoreFile();
         takesNothingBack();
+    }
+
+    void keepsTheRecoveryCopyWhenAnAnswerIsTakenBack() {
+        m_folder->Write(u"bckup.tmp"_s, "gerettet\r\n");
+        Recovery::Menu_File_RestoreFile();
+        m_dialogs->ExpectUnsaved(u"Datei öffnen"_s, Dialogs::Answer::No);
+        m_dialogs->ExpectOpenFile(u"Öffnen"_s, {}); // left by Esc
+        Driver::Trigger(u"Menu_File_Open"_s);
+        QVERIFY(Global::DocChanged && Recovery::Exists());
+        m_dialogs->ExpectUnsaved(u"Schließen"_s, Dialogs::Answer::No);
+        Driver::Trigger(u"Menu_File_Close"_s);
+        QVERIFY(!Recovery::Exists());
+    }
+
+    void keepsTheCopyOfAnotherText() {
+        m_folder->Write(u"bckup.tmp"_s, "gerettet\r\n");
+        // a page whose folder has gone, as when a stick is pulled
+        Documents::OpenFile(m_folder->Write(u"weg/seite.htm"_s, "neu\r\n"));
+        QVERIFY(QDir(m_folder->System(u"weg"_s)).removeRecursively());
+        Driver::TypeCode(u"x"_s);
+        m_dialogs->ExpectUnsaved(u"Datei öffnen"_s, Dialogs::Answer::Yes);
+        m_dialogs->ExpectFailedSave();
+        m_dialogs->ExpectOpenFile(u"Öffnen"_s, {});
+        Driver::Trigger(u"Menu_File_Open"_s);
+        QCOMPARE(m_folder->Read(u"bckup.tmp"_s), QByteArray("xneu\r\n\r\n"));
+        QCOMPARE(m_folder->Read(u"bckup1.tmp"_s), QByteArray("gerettet\r\n"));
+        QVERIFY(Global::DocChanged && !Driver::IsEnabled(u"Menu_File_SaveBackUp"_s));
+        QCOMPARE(Shared<Frm_Main>().Status()->Panel(2), u"geändert"_s);
+        m_dialogs->ExpectSaveFile(u"Speichern unter"_s, m_folder->Path(u"neu.htm"_s));
+        Driver::Trigger(u"Menu_File_Save"_s);
+        QCOMPARE(m_folder->Read(u"bckup.tmp"_s), QByteArray("gerettet\r\n"));
+        QVERIFY(!m_folder->Has(u"bckup1.tmp"_s));
     }
 
     void leavesPicturesAlone() {
@@ -69,9 +94,7 @@ private slots:
 
     void endsWithoutAQuestionBehindAFailedOpening() {
         Documents::OpenFile(m_folder->Write(u"a.htm"_s, "alt\r\n"));
-        m_dialogs->ExpectMessage(
-            u"Fehler"_s, u"Fehler beim Laden der Datei. Stellen Sie sicher, dass die Datei existiert und "
-                         "nicht geschützt ist."_s);
+        m_dialogs->ExpectFailedLoad();
         Documents::OpenFile(m_folder->Path(u"fehlt.htm"_s));
         for (const QString& command : {u"Menu_File_Save"_s, u"Menu_File_SaveBackUp"_s, u"Menu_View_Code"_s})
             QVERIFY(!Driver::IsEnabled(command));
@@ -111,10 +134,8 @@ private slots:
         Driver::TypeCode(u"neu "_s);
         disk.Fill(0);
         Files::SetProgramDirectory(disk.Path());
-        m_dialogs->ExpectMessage(u"Beenden"_s, Unsaved, Dialogs::Answer::Yes);
-        m_dialogs->ExpectMessage(u"Fehler"_s,
-                                 u"Fehler beim Speichern der Datei. Stellen Sie sicher, dass die Datei "
-                                 "nicht schreibgeschützt ist."_s);
+        m_dialogs->ExpectUnsaved(u"Beenden"_s, Dialogs::Answer::Yes);
+        m_dialogs->ExpectFailedSave();
         m_dialogs->ExpectMessage(
             u"Beenden"_s, u"Auch eine Sicherungskopie des Textes kann nicht geschrieben werden. Das Programm "
                           "bleibt geöffnet, damit der Text nicht verloren geht."_s);
@@ -122,26 +143,23 @@ private slots:
         QVERIFY(Shared<Frm_Main>().isVisible() && Global::DocChanged);
         QCOMPARE(Files::Read(disk.Path() + u"\\a.htm").value_or(QByteArray()), QByteArray("alt\r\n"));
         disk.Empty();
-        m_dialogs->ExpectMessage(u"Beenden"_s, Unsaved, Dialogs::Answer::Yes);
+        m_dialogs->ExpectUnsaved(u"Beenden"_s, Dialogs::Answer::Yes);
         m_dialogs->ExpectSaveFile(u"Speichern unter"_s, disk.Path() + u"\\b.htm");
         Shared<Frm_Main>().close();
         QCOMPARE(Files::Read(disk.Path() + u"\\b.htm").value_or(QByteArray()), QByteArray("neu alt\r\n"));
         m_program.reset(); // before its disk goes
     }
 
-    void fitsTheWindowToItsScreen_data() {
-        const auto row = Columns<QRect, QRect>("saved", "shown");
-        row("as it was", QRect(40, 50, 900, 650), QRect(40, 50, 900, 650));
-        row("half outside", QRect(900, 700, 900, 650), QRect(380, 150, 900, 650));
-        row("from a larger screen", QRect(-20, -30, 3000, 2000), QRect(0, 0, 1280, 800));
-        row("on the second", QRect(1500, 100, 600, 500), QRect(1500, 100, 600, 500));
-        row("nowhere", QRect(9000, 9000, 600, 500), QRect(680, 300, 600, 500));
-        row("too small", QRect(10, 10, 5, 5), QRect(10, 10, 480, 360));
-    }
     void fitsTheWindowToItsScreen() {
-        QFETCH(QRect, saved);
-        QTEST(FittedToScreen(saved, {QRect(0, 0, 1280, 800), QRect(1280, 0, 1024, 768)}, {480, 360}),
-              "shown");
+        const QList<QRect> screens{QRect(0, 0, 1280, 800), QRect(1280, 0, 1024, 768)};
+        for (const auto& [saved, shown] :
+             {std::pair(QRect(40, 50, 900, 650), QRect(40, 50, 900, 650)),
+              {QRect(900, 700, 900, 650), QRect(380, 150, 900, 650)}, // half outside
+              {QRect(-20, -30, 3000, 2000), QRect(0, 0, 1280, 800)},  // from a larger screen
+              {QRect(1500, 100, 600, 500), QRect(1500, 100, 600, 500)},
+              {QRect(9000, 9000, 600, 500), QRect(680, 300, 600, 500)},
+              {QRect(10, 10, 5, 5), QRect(10, 10, 480, 360)}})
+            QCOMPARE(FittedToScreen(saved, screens, {480, 360}), shown);
     }
 
     // With "ü€" typed at the very start.
@@ -193,8 +211,7 @@ private slots:
         Box().setFocus();
         Driver::PressCode(Qt::Key_Delete); // without a selection the key is the box's
         QCOMPARE(Box().Text(), u"bcdef"_s);
-        Box().SetSelStart(1);
-        Box().SetSelLength(2);
+        Select(1, 2);
         Driver::PressCode(Qt::Key_Delete); // with one the command acts, by a whole new text
         QCOMPARE(Box().Text(), u"bef"_s);
         QCOMPARE(Box().SelStart(), 1);

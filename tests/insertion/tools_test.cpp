@@ -1,28 +1,19 @@
 // SPDX-License-Identifier: MIT
 // The insertion tools by their controls, in the real program.
-#include "documents/document_commands.h"
-#include "documents/frm_code.h"
 #include "insertion/frm_tag_tools.h"
-#include "platform/literals.h"
-#include "state/global.h"
-#include "support/driver.h"
-#include "support/program_folder.h"
-#include "support/scripted_dialogs.h"
-#include "support/test_registry.h"
+#include "support/program_test.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
+#include <QScreen>
 #include <QTableView>
+#include <QWheelEvent>
 
-class Tools : public QObject {
+class Tools : public ProgramTest {
     Q_OBJECT
 
-    std::unique_ptr<ProgramFolder> m_folder;
-    std::unique_ptr<ScriptedDialogs> m_dialogs;
-    std::unique_ptr<Driver::RunningProgram> m_program;
-
-    static Txt_Code& Box() { return *Shared<Frm_Code>().TextBox; }
     // Opens the dialog by its command and clicks what `inside` clicks.
     static void In(const QString& command, const QString& dialog, std::function<void(QWidget*)> inside) {
         Driver::InModal(dialog, std::move(inside));
@@ -31,21 +22,11 @@ class Tools : public QObject {
     }
 
 private slots:
-    void init() {
-        m_folder = std::make_unique<ProgramFolder>();
-        m_dialogs = std::make_unique<ScriptedDialogs>();
-        m_program = std::make_unique<Driver::RunningProgram>();
-        Global::AutoDebug = Global::AutoProjectManager = false;
+    void init() override {
+        ProgramTest::init();
         Documents::OpenFile(m_folder->Write(u"seite.htm"_s, "-//W3C//DTD HTML <head>\r\nhier"));
-        Box().SetSelStart(Box().Text().size() - 4);
-        Box().SetSelLength(4);
+        Select(Box().Text().size() - 4, 4);
     }
-    void cleanup() {
-        m_program.reset();
-        m_dialogs.reset();
-        m_folder.reset();
-    }
-
     void toolWindowsInsertAndComeBack() {
         Driver::Trigger(u"Menu_View_TagTools"_s);
         QVERIFY(Global::TagToolOpen);
@@ -66,6 +47,33 @@ private slots:
         Documents::OpenFile(m_folder->Path(u"seite.htm"_s));
         QVERIFY(Loaded<Frm_TagTools>());
         QCOMPARE(Shared<Frm_TagTools>().pos(), QPoint(77, 88));
+        const QSize preset = Shared<Frm_TagTools>().size();
+        Unload<Frm_TagTools>();
+        Global::TagToolPos =
+            Global::ToolPos{u""_s, u"99999"_s, u"-99999"_s, u"10"_s, u"0"_s}; // nothing that could be seen
+        Driver::Trigger(u"Menu_View_TagTools"_s);
+        QCOMPARE(Shared<Frm_TagTools>().size(), preset);
+        QVERIFY(Shared<Frm_TagTools>().screen()->geometry().contains(Shared<Frm_TagTools>().geometry()));
+    }
+
+    void keysStayWithTheCode() {
+        for (const QString& tool : {u"Menu_View_Events"_s, u"Menu_View_ColorStandard"_s})
+            Driver::Trigger(tool);
+        QWidget* color = Driver::FindControl(u"Frm_Color"_s);
+        QApplication::setActiveWindow(color);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_E,
+                        Qt::AltModifier); // not the menu of that letter
+        QVERIFY(Box().Text().endsWith(u"\r\n#000000"));
+        QApplication::setActiveWindow(color); // the desktop was late to do what the click asked for
+        QTRY_VERIFY(color->parentWidget()->isActiveWindow());
+        QTest::keyClicks(color, u" x"_s); // nothing in the window wants them
+        QVERIFY(Box().Text().endsWith(u"\r\n#000000 x"));
+        QWidget* events = Driver::FindControl(u"Cmb_Event"_s);
+        QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(events, &wheel);
+        QTest::keyClick(events, Qt::Key_Down); // opens the list and chooses nothing
+        QVERIFY(Box().Text().endsWith(u"\r\n#000000 x"));
     }
 
     void dialogsInsert() {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/code_page.h"
 
-#include "platform/text.h"
 #include "support/test.h"
 
 using CodePage::Encoding;
@@ -16,7 +15,7 @@ private slots:
         const QString text = CodePage::FromWindows1252(all);
         QCOMPARE(CodePage::ToWindows1252(text), all);
         QCOMPARE(QSet<QChar>(text.begin(), text.end()).size(), 256);
-        QCOMPARE(text[0x80], u'€');
+        QCOMPARE(text.sliced(0x80, 32), u"€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ"_s);
         QCOMPARE(text[0xE4], u'ä');
         QCOMPARE(CodePage::ByteOf(u'€'), 0x80);
         QCOMPARE(CodePage::ByteOf(u'Ł'), -1);
@@ -26,10 +25,8 @@ private slots:
         const auto row = Columns<QByteArray, bool, bool, QString>("bytes", "mark", "lfOnly", "name");
         row("ASCII", "a\r\nb", false, false, "Windows-1252");
         row("ASCII with LF", "a\nb\n", false, true, "Windows-1252 LF");
-        row("one byte an umlaut", "gr\xFC\r\n", false, false, "Windows-1252");
         row("UTF-8", "gr\xC3\xBCn\n", false, true, "UTF-8 LF");
         row("UTF-8 with mark", "\xEF\xBB\xBFgr\xC3\xBCn", true, false, "UTF-8 mit Marke");
-        row("mark and ASCII", "\xEF\xBB\xBFxyz", true, false, "UTF-8 mit Marke");
         row("mark alone", "\xEF\xBB\xBF", true, false, "UTF-8 mit Marke");
         row("mark before bytes that are none", "\xEF\xBB\xBF\xFC", false, false, "Windows-1252");
         row("cut in the middle of a character", "gr\xC3", false, false, "Windows-1252");

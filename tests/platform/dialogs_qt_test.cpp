@@ -26,9 +26,8 @@ private slots:
                 bool stayed = false;
                 Driver::InModal(u"MsgBox"_s, [&](QWidget* box) {
                     if (byKey) QTest::keyClick(box, Qt::Key_Escape);
-                    for (QAbstractButton* button : box->findChildren<QAbstractButton*>()) {
+                    for (QAbstractButton* button : box->findChildren<QAbstractButton*>())
                         if (byKey && box->isVisible()) QTest::keyClick(button, Qt::Key_Escape);
-                    }
                     if (!byKey) box->close();
                     stayed = box->isVisible();
                     if (stayed) qobject_cast<QMessageBox*>(box)->button(QMessageBox::Yes)->click();
@@ -51,29 +50,25 @@ private slots:
         QVERIFY(!covered && splash.isVisible());
     }
 
-    void addsTheExtensionOfTheChosenGroup_data() {
-        const auto row = Columns<QString, int, QString>("typed", "group", "path");
-        row("page", "seite", 0, "seite.htm");
-        row("style sheet", "seite", 1, "seite.css");
-        row("all files", "seite", 2, "seite");
-        row("with an extension", "seite.txt", 1, "seite.txt");
-    }
     void addsTheExtensionOfTheChosenGroup() {
-        QFETCH(QString, typed);
-        QFETCH(int, group);
-        QFETCH(QString, path);
         const QTemporaryDir folder;
         QtHandler handler([&] { return folder.path(); });
-        Driver::InModal(u"Dialog"_s, [&](QWidget* widget) {
-            auto* dialog = qobject_cast<QFileDialog*>(widget);
-            dialog->selectNameFilter(dialog->nameFilters().value(group));
-            dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(typed);
-            QMetaObject::invokeMethod(dialog, "accept");
-        });
-        const QString chosen = handler.ChooseSaveFile(
-            {u"Speichern unter"_s, u"Internet-Seiten (*.htm;*.html)|*.htm;*.html|StyleSheets (*.css)|*.css|"
-                                   "Alle Dateien (*.*)|*.*"_s});
-        QCOMPARE(chosen.section(u'\\', -1), path);
+        for (const auto& [typed, group, path] : {std::tuple(u"seite"_s, 0, u"seite.htm"_s),
+                                                 {u"seite"_s, 1, u"seite.css"_s},
+                                                 {u"seite"_s, 2, u"seite"_s}, // all files
+                                                 {u"seite.txt"_s, 1, u"seite.txt"_s}}) {
+            Driver::InModal(u"Dialog"_s, [&, typed = typed, group = group](QWidget* widget) {
+                auto* dialog = qobject_cast<QFileDialog*>(widget);
+                dialog->selectNameFilter(dialog->nameFilters().value(group));
+                dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(typed);
+                QMetaObject::invokeMethod(dialog, "accept");
+            });
+            const QString chosen = handler.ChooseSaveFile(
+                {u"Speichern unter"_s,
+                 u"Internet-Seiten (*.htm;*.html)|*.htm;*.html|StyleSheets (*.css)|*.css|"
+                 "Alle Dateien (*.*)|*.*"_s});
+            QCOMPARE(chosen.section(u'\\', -1), path);
+        }
     }
 };
 

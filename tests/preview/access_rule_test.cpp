@@ -1,55 +1,43 @@
 // SPDX-License-Identifier: MIT
 #include "preview/access_rule.h"
 
-#include "platform/files.h"
-#include "platform/literals.h"
 #include "preview/browser_address.h"
 #include "preview/notice_page.h"
-#include "support/program_folder.h"
-#include "support/test_registry.h"
-
-#include <QFile>
+#include "support/folder_test.h"
 
 // What the view may load, and how its addresses are written.
-class AccessRules : public QObject {
+class AccessRules : public FolderTest {
     Q_OBJECT
 
 private slots:
     void readsAddresses_data() {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QUrl>("url");
-        QTest::addColumn<bool>("network");
-        const auto row = [](const char* title, const QString& typed, const QString& url, bool network) {
-            QTest::newRow(title) << typed << QUrl(url) << network;
-        };
-        row("nothing", u"  "_s, QString(), false);
-        row("host", u"www.verein.example"_s, u"http://www.verein.example"_s, true);
-        row("blanks around", u" https://verein.example/a?b=ä#c "_s, u"https://verein.example/a?b=ä#c"_s,
-            true);
-        row("unknown scheme", u"gopher://verein.example"_s, u"gopher://verein.example"_s, true);
-        row("blank", u"about:blank"_s, u"about:blank"_s, false);
-        row("file", u"file:///tmp/a%20b.htm"_s, u"file:///tmp/a%20b.htm"_s, false);
-        row("share", u"file://server/a.htm"_s, u"file://server/a.htm"_s, true);
+        const auto row = Columns<QString, QString, bool>("typed", "url", "network");
+        row("nothing", "  ", "", false);
+        row("host", "www.verein.example", "http://www.verein.example", true);
+        row("blanks around", " https://verein.example/a?b=ä#c ", "https://verein.example/a?b=ä#c", true);
+        row("unknown scheme", "gopher://verein.example", "gopher://verein.example", true);
+        row("blank", "about:blank", "about:blank", false);
+        row("file", "file:///tmp/a%20b.htm", "file:///tmp/a%20b.htm", false);
+        row("share", "file://server/a.htm", "file://server/a.htm", true);
 #ifndef Q_OS_WIN
-        row("program's form", u"\\tmp\\Größe 5%.htm"_s, u"file:///tmp/Größe%205%25.htm"_s, false);
-        row("place in a page", u"/tmp/a.htm#unten"_s, u"file:///tmp/a.htm#unten"_s, false);
+        row("program's form", "\\tmp\\Größe 5%.htm", "file:///tmp/Größe%205%25.htm", false);
+        row("place in a page", "/tmp/a.htm#unten", "file:///tmp/a.htm#unten", false);
 #endif
     }
     void readsAddresses() {
         QFETCH(QString, typed);
-        QFETCH(QUrl, url);
+        QFETCH(QString, url);
         QFETCH(bool, network);
         const QUrl read = BrowserAddress::FromText(typed);
-        QCOMPARE(read, url);
+        QCOMPARE(read, QUrl(url));
         QCOMPARE(BrowserAddress::IsNetwork(read), network);
         // what is shown leads back to the same place
-        if (read.isValid()) QCOMPARE(BrowserAddress::FromText(BrowserAddress::Shown(read)), url);
+        if (read.isValid()) QCOMPARE(BrowserAddress::FromText(BrowserAddress::Shown(read)), QUrl(url));
     }
 
     void takesASharpSignInAFileNameAsItIs() {
-        const ProgramFolder folder(ProgramFolder::Content::Empty);
-        const QUrl url = BrowserAddress::FromText(folder.Write(u"C#.htm"_s, "x"));
-        QCOMPARE(BrowserAddress::Shown(url), folder.System(u"C#.htm"_s));
+        const QUrl url = BrowserAddress::FromText(m_folder->Write(u"C#.htm"_s, "x"));
+        QCOMPARE(BrowserAddress::Shown(url), m_folder->System(u"C#.htm"_s));
     }
 
     void staysOfflineButForTheUsersOwnWishes() {
@@ -95,16 +83,16 @@ private slots:
     }
 
     void showsTextsOfThePagesOwnFolders() {
-        const ProgramFolder folder(ProgramFolder::Content::Empty);
         for (const QString& name : {u"a.txt"_s, u"site/b.TXT"_s, u"site/sub/c.txt"_s, u"site/LIESMICH"_s,
                                     u"site.txt"_s, u"site/x.ini"_s, u"site2/d.txt"_s}) {
-            folder.Write(name, "x");
+            m_folder->Write(name, "x");
         }
-        QVERIFY(QFile::link(folder.System(u"a.txt"_s), folder.System(u"site/link.txt"_s)));
-        const QUrl page = QUrl::fromLocalFile(Files::ToSystem(folder.Write(u"site/s.htm"_s, "x")));
+        QVERIFY(QFile::link(m_folder->System(u"a.txt"_s), m_folder->System(u"site/link.txt"_s)));
+        const QUrl page = QUrl::fromLocalFile(Files::ToSystem(m_folder->Write(u"site/s.htm"_s, "x")));
         AccessRule rule;
         const auto shown = [&](const QString& name) {
-            return rule.AllowsPart(QUrl::fromLocalFile(folder.System(name)), AccessRule::Part::Frame, page);
+            return rule.AllowsPart(QUrl::fromLocalFile(m_folder->System(name)), AccessRule::Part::Frame,
+                                   page);
         };
         for (const QString& name : {u"site/b.TXT"_s, u"site/sub/c.txt"_s, u"site/LIESMICH"_s})
             QVERIFY2(shown(name), qPrintable(name));
@@ -115,8 +103,8 @@ private slots:
         rule.browsingAlone = true;
         QVERIFY(!shown(u"site/b.TXT"_s));
         rule.browsingAlone = false;
-        QVERIFY(!rule.AllowsPart(QUrl::fromLocalFile(folder.System(u"site/b.TXT"_s)), AccessRule::Part::Frame,
-                                 QUrl(u"http://verein.example/"_s)));
+        QVERIFY(!rule.AllowsPart(QUrl::fromLocalFile(m_folder->System(u"site/b.TXT"_s)),
+                                 AccessRule::Part::Frame, QUrl(u"http://verein.example/"_s)));
     }
 
     void keepsTheRefusedAddressInItsNotice() {

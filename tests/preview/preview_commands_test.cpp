@@ -1,24 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "preview/preview_commands.h"
-
-#include "documents/text_buffer.h"
-#include "platform/files.h"
-#include "platform/literals.h"
-#include "state/commands.h"
-#include "state/global.h"
-#include "state/lists.h"
-#include "state/neighbours.h"
-#include "support/program_folder.h"
-#include "support/scripted_dialogs.h"
-#include "support/test_registry.h"
+#include "support/folder_test.h"
 
 using namespace Preview;
 
-class PreviewCommands : public QObject {
+class PreviewCommands : public FolderTest {
     Q_OBJECT
 
-    std::unique_ptr<ProgramFolder> m_folder;
-    std::unique_ptr<TextBuffer> m_box;
     QStringList m_calls;
 
     // Opens a document as the editor has it.
@@ -28,18 +16,18 @@ class PreviewCommands : public QObject {
         m_box->SetText(text);
     }
 
+public:
+    PreviewCommands() : FolderTest(ProgramFolder::Content::Data) {}
+
 private slots:
-    void init() {
-        m_folder = std::make_unique<ProgramFolder>();
+    void init() override {
+        FolderTest::init();
         QVERIFY(Lists::LoadTagList());
-        m_box = std::make_unique<TextBuffer>();
         m_calls.clear();
-        Neighbours::TheCodeBox.AnsweredBy([this] { return m_box.get(); });
         Neighbours::Browse.AnsweredBy([this](const QString& path) { m_calls << u"browse "_s + path; });
         Neighbours::CheckSyntax.AnsweredBy([this] { m_calls << u"check"_s; });
         Neighbours::RunAnimation.AnsweredBy([this](int, const QString& text) { m_calls << text; });
     }
-    void cleanup() { m_folder.reset(); }
 
     void showsTheSavedPage() {
         Open(u"seite.htm"_s, u"<P>Neu</P>"_s);
@@ -75,33 +63,26 @@ private slots:
     }
 
     void showsNothingThatIsNotOnDisk() {
-        ScriptedDialogs dialogs;
         Open({}, u"a"_s);
         for (const auto command :
              {Menu_View_Browser_Once, Menu_View_Browser_Project, Menu_View_Browser_WAP}) {
-            dialogs.ExpectSaveFile(u"Speichern unter"_s, QString());
+            m_dialogs->ExpectSaveFile(u"Speichern unter"_s, QString());
             command();
         }
         Files::SetProgramDirectory(u"\\no\\such\\folder"_s);
-        dialogs.ExpectMessage(u"Fehler"_s,
-                              u"Die Datei für die Temporärvorschau konnte nicht geschrieben werden."_s);
+        m_dialogs->ExpectMessage(u"Fehler"_s,
+                                 u"Die Datei für die Temporärvorschau konnte nicht geschrieben werden."_s);
         Menu_View_Browser_Temp();
         QCOMPARE(m_calls, QStringList());
     }
 
     void writesTheTemporaryCopy_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QByteArray>("bytes");
-        const auto row = [](const char* title, const QString& name, const QString& text, const char* bytes) {
-            QTest::newRow(title) << name << text << QByteArray(bytes);
-        };
-        row("unnamed", QString(), u"<p>ä"_s, "<p>\xE4\r\n");
-        row("extension cut", u"x.html"_s, u"a\r\n"_s, "a\r\n");
-        row("style sheet", u"x.css"_s, u"a{}"_s, "a{}\r\n");
-        row("one line end goes", u"x.htm"_s, u"a\r\n\r\n \t"_s, "a\r\n\r\n");
-        row("tail stays", u"x.htm"_s, u"a\r\n!"_s, "a\r\n!\r\n");
-        row("beyond the code page", u"x.htm"_s, u"ä\u0416"_s, "\xC3\xA4\xD0\x96\r\n");
+        const auto row = Columns<QString, QString, QByteArray>("name", "text", "bytes");
+        row("unnamed", "", "<p>ä", "<p>\xE4\r\n");
+        row("extension cut", "x.html", "a\r\n", "a\r\n");
+        row("style sheet", "x.css", "a{}", "a{}\r\n");
+        row("one line end goes", "x.htm", "a\r\n\r\n \t", "a\r\n\r\n");
+        row("beyond the code page", "x.htm", "ä\u0416", "\xC3\xA4\xD0\x96\r\n");
     }
     void writesTheTemporaryCopy() {
         QFETCH(QString, name);
@@ -144,10 +125,9 @@ private slots:
     }
 
     void convertsForTheWAPSimulation() {
-        ScriptedDialogs dialogs;
         Open(u"start.seite.wml"_s, u"<wml>"_s);
-        dialogs.ExpectMessage(u"WAP-Simulation"_s,
-                              u"Diese Seite kann noch nicht für die WAP-Simulation umgewandelt werden."_s);
+        m_dialogs->ExpectMessage(u"WAP-Simulation"_s,
+                                 u"Diese Seite kann noch nicht für die WAP-Simulation umgewandelt werden."_s);
         Menu_View_Browser_WAP();
         QCOMPARE(m_calls, QStringList());
         Neighbours::GenerateWAPPreview.AnsweredBy([this] {

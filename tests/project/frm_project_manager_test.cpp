@@ -6,12 +6,6 @@ class FrmProjectManager : public ProjectWindowTest {
     Q_OBJECT
 
 private slots:
-    void init() {
-        MakeFolder();
-        Start();
-    }
-    void cleanup() { End(); }
-
     // Missing files first, each reached file once, external links last; the buttons mean the row.
     void listsWhatTheSiteReaches() {
         OpenSite();
@@ -73,9 +67,7 @@ private slots:
         QFile::remove(m_folder->System(u"verein/neu.htm"_s));
         QDir().mkdir(m_folder->System(u"verein/neu.htm"_s)); // nothing can be written there
         ExpectQuestionOnSaving(Answer::Yes);
-        m_dialogs->ExpectMessage(u"Fehler"_s,
-                                 u"Fehler beim Speichern der Datei. Stellen Sie sicher, dass die Datei nicht "
-                                 "schreibgeschützt ist."_s);
+        m_dialogs->ExpectFailedSave();
         DoubleClickRow(FileList(), u"index.htm"_s);
         QVERIFY(Box().Text().startsWith(u'z') && Global::DocChanged);
     }

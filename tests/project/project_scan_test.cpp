@@ -24,12 +24,6 @@ class ProjectScan : public ProjectWindowTest {
     }
 
 private slots:
-    void init() {
-        MakeFolder();
-        Start();
-    }
-    void cleanup() { End(); }
-
     void staysUsableWhileRowsComeIn() {
         Documents::OpenFile(WriteLargeSite(100));
         Global::MaxLinkDeep = 1;

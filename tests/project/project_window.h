@@ -3,10 +3,9 @@
 #pragma once
 
 #include "platform/events.h"
-#include "platform/files.h"
 #include "project/file_list_model.h"
 #include "project/frm_project_manager.h"
-#include "support/main_window_test.h"
+#include "support/program_test.h"
 
 #include <QAction>
 #include <QApplication>
@@ -15,7 +14,8 @@
 
 using Dialogs::Answer;
 
-class ProjectWindowTest : public MainWindowTest {
+class ProjectWindowTest : public ProgramTest {
+
 protected:
     enum Column { Name, Title, Folder, LinkedFrom, LinkName, Type };
 
@@ -27,9 +27,8 @@ protected:
     // The enabled buttons by their keys.
     static QString Enabled() {
         QStringList keys;
-        for (const QString& key : {u"Back"_s, u"Open"_s, u"Delete"_s, u"GoTo"_s, u"New"_s}) {
+        for (const QString& key : {u"Back"_s, u"Open"_s, u"Delete"_s, u"GoTo"_s, u"New"_s})
             if (Button(key)->isEnabled()) keys << key;
-        }
         return keys.join(u' ');
     }
     static void Press(const QString& key) {
@@ -39,9 +38,8 @@ protected:
     }
     static QStringList Names(const QTreeView& list) {
         QStringList texts;
-        for (int row = 0; row < list.model()->rowCount(); ++row) {
+        for (int row = 0; row < list.model()->rowCount(); ++row)
             texts << list.model()->index(row, Name).data().toString();
-        }
         return texts;
     }
     // The row of that name, clicked as by the user.
@@ -100,5 +98,9 @@ protected:
         Shared<Frm_Main>().showNormal();
         Shared<Frm_Main>().resize(1000, 700);
         QCoreApplication::processEvents();
+    }
+    void init() override {
+        FolderTest::init();
+        Start();
     }
 };

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "documents/txt_code.h"
-#include "platform/files.h"
 #include "platform/window.h"
 #include "shell/frm_key_combo.h"
 #include "shell/frm_options.h"
-#include "state/settings.h"
 #include "support/driver.h"
-#include "support/test.h"
+#include "support/folder_test.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -56,12 +54,8 @@ bool Enabled(const QString& name) { return Driver::FindControl(name)->isEnabled(
 
 } // namespace
 
-class OptionsTest : public QObject {
+class OptionsTest : public FolderTest {
     Q_OBJECT
-
-private:
-    std::unique_ptr<ProgramFolder> m_folder;
-    std::unique_ptr<ScriptedDialogs> m_dialogs;
 
     static void Open() {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the one before is gone
@@ -78,18 +72,16 @@ private:
     static void Leave() { Driver::Click(u"Cmd_Control_1"_s); }
 
 private slots:
-    void init() {
+    void init() override {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        m_folder = std::make_unique<ProgramFolder>(ProgramFolder::Content::Empty);
-        m_dialogs = std::make_unique<ScriptedDialogs>();
+        FolderTest::init();
         for (const Truth& truth : Truths()) truth.Set(false);
         Global::MaxLinkDeep = 3;
         Global::DebugAccuracy = 80;
     }
-    void cleanup() {
+    void cleanup() override {
         Unload<Frm_Options>();
-        m_dialogs.reset();
-        m_folder.reset();
+        FolderTest::cleanup();
     }
 
     void keyCombinationsAreStoredOnlyByTheButton() {
@@ -129,28 +121,20 @@ private slots:
                 QVERIFY2(Box(truth.box)->isChecked() == (truth.box == only.box), qPrintable(truth.box));
                 Box(truth.box)->click(); // now all but this one are checked
             }
+            Line(u"Txt_LinkDeep"_s)->setText(u"9"_s);
+            Line(u"Txt_DebugAccuracy"_s)->setText(u"90"_s);
+            Leave(); // which takes nothing over
+            QVERIFY(Global::MaxLinkDeep == 3 && Global::DebugAccuracy == 80);
+            Open();
+            for (const Truth& truth : Truths()) {
+                QVERIFY2(truth.Value() == (truth.box == only.box), qPrintable(truth.box));
+                Box(truth.box)->click();
+            }
             Ok();
             QVERIFY(!Loaded<Frm_Options>());
-            for (const Truth& truth : Truths()) {
+            for (const Truth& truth : Truths())
                 QVERIFY2(truth.Value() == (truth.box != only.box), qPrintable(truth.box));
-            }
         }
-    }
-
-    void leavingTakesNothingOver() {
-        Open();
-        for (const Truth& truth : Truths()) Box(truth.box)->click();
-        Line(u"Txt_LinkDeep"_s)->setText(u"9"_s);
-        Line(u"Txt_DebugAccuracy"_s)->setText(u"9"_s);
-        Leave();
-        QCOMPARE(Global::DebugAccuracy, 80);
-        Global::DebugAccuracy = 101; // shows as the whole
-        Open();
-        QCOMPARE(Line(u"Txt_DebugAccuracy"_s)->text(), u"100"_s);
-        Leave();
-        QVERIFY(!Loaded<Frm_Options>());
-        for (const Truth& truth : Truths()) QVERIFY(!truth.Value());
-        QCOMPARE(Global::MaxLinkDeep, 3);
     }
 
     void readsNumbers_data() {
@@ -162,7 +146,6 @@ private slots:
         row("no depth", "", "50", "Txt_LinkDeep", 3, 80);
         row("depth 0, and the other bad too", "0", "0", "Txt_LinkDeep", 3, 80);
         row("depth below 0", "-4", "50", "Txt_LinkDeep", 3, 80);
-        row("no accuracy", "2", "", "Txt_DebugAccuracy", 3, 80);
         row("accuracy 0", "2", "0", "Txt_DebugAccuracy", 3, 80);
         row("accuracy above 100", "2", "101", "Txt_DebugAccuracy", 3, 80);
         row("huge accuracy", "2", "9999999999", "Txt_DebugAccuracy", 3, 80);
@@ -192,6 +175,12 @@ private slots:
         QVERIFY(Line(refused)->isVisible());
         QCOMPARE(Line(u"Txt_LinkDeep"_s)->text(), deepIsBad ? u"1"_s : deep);
         QCOMPARE(Line(u"Txt_DebugAccuracy"_s)->text(), deepIsBad ? accuracy : u"100"_s);
+    }
+
+    void anAccuracyBeyondTheWholeShowsAsTheWhole() {
+        Global::DebugAccuracy = 101;
+        Open();
+        QCOMPARE(Line(u"Txt_DebugAccuracy"_s)->text(), u"100"_s);
     }
 
     void fileTypesAreAddedAndRemoved() {
@@ -229,16 +218,11 @@ private slots:
         QCOMPARE(Global::DialogFile, picture);
         QCOMPARE(m_folder->Read(u"skin.bmp"_s), QByteArray("BM-Bild"));
         Leave();
-        QVERIFY(m_folder->Has(u"skin.bmp"_s));
-        QVERIFY(!Global::SkinFileExists);
-    }
-
-    void switchingTheSkinOffDeletesIt() {
-        m_folder->Write(u"skin.bmp"_s, "BM");
+        QVERIFY(m_folder->Has(u"skin.bmp"_s) && !Global::SkinFileExists);
         Global::SkinFileExists = true;
         Open();
         Box(u"Chk_UseSkin_0"_s)->click();
-        QVERIFY(m_folder->Has(u"skin.bmp"_s));
+        QVERIFY(m_folder->Has(u"skin.bmp"_s)); // switched off it goes, but only by the button
         Ok();
         QVERIFY(!m_folder->Has(u"skin.bmp"_s) && !Global::SkinFileExists);
     }
@@ -259,20 +243,6 @@ private slots:
         Box(u"Chk_UseSkin_1"_s)->click();
         Ok();
         QVERIFY(Global::WorkScreenSkin.isEmpty());
-    }
-
-    void keyCombinationsComeBackAfterARestart() {
-        Settings::LoadSettings();
-        const QString lines = u"<ul>\r\n  <li>Ä\u00a0b = c</li>\r\n</ul>"_s;
-        Shared<Frm_KeyCombo>();
-        Store(4, lines);
-        Store(9, u"neun"_s);
-        Unload<Frm_KeyCombo>();
-        QVERIFY(Settings::WriteSettings());
-        Global::Reset();
-        Settings::LoadSettings();
-        QCOMPARE(Global::KeyCombos[4], lines);
-        QCOMPARE(Global::KeyCombos[9], u"neun"_s);
     }
 };
 

@@ -1,30 +1,25 @@
 // SPDX-License-Identifier: MIT
-// How the program comes up and goes down.
-#include "documents/document_commands.h"
-#include "documents/frm_code.h"
-#include "platform/files.h"
+// How the program comes up and goes down, and that all its names are answered.
 #include "shell/frm_load.h"
-#include "shell/frm_main.h"
 #include "shell/frm_welcome.h"
 #include "shell/main_menu.h"
-#include "shell/status_bar.h"
-#include "shell/wiring.h"
-#include "support/driver.h"
-#include "support/test.h"
+#include "support/program_test.h"
 
-#include <QDir>
+#include <QDirIterator>
 #include <QListWidget>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QToolBar>
 
-class Start : public QObject {
+class Start : public ProgramTest {
     Q_OBJECT
 
 private slots:
+    void init() override { FolderTest::init(); }
+
     void checksTheInstallation() {
-        const ProgramFolder folder;
         QCOMPARE(Program::CheckInstallation(), u"Full"_s);
-        QFile::remove(folder.System(u"anim9.anm"_s));
+        QFile::remove(m_folder->System(u"anim9.anm"_s));
         QCOMPARE(Program::CheckInstallation(), u"Update"_s);
     }
 
@@ -41,56 +36,46 @@ private slots:
     }
 
     void comesUpAndWritesItsSettings() {
-        const ProgramFolder folder;
-        ScriptedDialogs dialogs;
-        int width = 0; // with the frame, in twips
-        {
-            const Driver::RunningProgram program;
-            // written before the window was shown
-            QVERIFY(folder.Read(u"edit.ini"_s).contains("WindowState=0"));
-            const Frm_Main& main = Shared<Frm_Main>();
-            QVERIFY(main.isVisible() && main.isEnabled() && !Loaded<Frm_Load>());
-            QVERIFY(main.isMaximized()); // as on every first run
-            QCOMPARE(main.windowTitle(), Global::ProgramName);
-            QCOMPARE(main.Status()->Panel(1), u"Bereit"_s);
-            QVERIFY(!Driver::IsEnabled(u"Menu_File_Save"_s) && !Driver::IsEnabled(u"Menu_Insert"_s) &&
-                    Driver::IsEnabled(u"Menu_File_Open"_s));
-            QVERIFY(!Driver::IsEnabled(u"Menu_Tools_Tramlink"_s));
-            for (const QAction* action : main.findChild<QToolBar*>(u"ToolBar"_s)->actions())
-                QVERIFY(action->isSeparator() || (!action->toolTip().isEmpty() && !action->icon().isNull()));
-            Shared<Frm_Main>().showNormal();
-            Shared<Frm_Main>().resize(700, 500);
-            width = Shared<Frm_Main>().frameGeometry().width() * 15;
-            Shared<Frm_Main>().Exit();
-        }
-        QVERIFY(folder.Read(u"edit.ini"_s).contains("WindowState=0\r\n"));
-        QVERIFY(folder.Read(u"edit.ini"_s).contains("Width=" + QByteArray::number(width) + "\r\n"));
+        StartProgram();
+        // written before the window was shown
+        QVERIFY(m_folder->Read(u"edit.ini"_s).contains("WindowState=0"));
+        const Frm_Main& main = Shared<Frm_Main>();
+        QVERIFY(main.isVisible() && main.isEnabled() && !Loaded<Frm_Load>());
+        QVERIFY(main.isMaximized()); // as on every first run
+        QCOMPARE(main.windowTitle(), Global::ProgramName);
+        QCOMPARE(main.Status()->Panel(1), u"Bereit"_s);
+        QVERIFY(!Driver::IsEnabled(u"Menu_File_Save"_s) && !Driver::IsEnabled(u"Menu_Insert"_s) &&
+                Driver::IsEnabled(u"Menu_File_Open"_s));
+        QVERIFY(!Driver::IsEnabled(u"Menu_Tools_Tramlink"_s));
+        for (const QAction* action : main.findChild<QToolBar*>(u"ToolBar"_s)->actions())
+            QVERIFY(action->isSeparator() || (!action->toolTip().isEmpty() && !action->icon().isNull()));
+        Shared<Frm_Main>().showNormal();
+        Shared<Frm_Main>().resize(700, 500);
+        const int width = Shared<Frm_Main>().frameGeometry().width() * 15; // with the frame, in twips
+        Shared<Frm_Main>().Exit();
+        m_program.reset();
+        QVERIFY(m_folder->Read(u"edit.ini"_s).contains("WindowState=0\r\n"));
+        QVERIFY(m_folder->Read(u"edit.ini"_s).contains("Width=" + QByteArray::number(width) + "\r\n"));
     }
 
-    void endsOnAMissingList_data() {
-        const auto row = Columns<QString>("name");
-        row("tags", "taglist.lst");
-        row("attributes", "attribute.lst");
-        row("tips", "tips.lst");
-    }
     void endsOnAMissingList() {
-        QFETCH(QString, name);
-        const ProgramFolder folder;
-        QFile::remove(folder.System(name));
-        ScriptedDialogs dialogs;
-        dialogs.ExpectMessage(
-            u"Fehler"_s, u"Die Datei '%1' kann nicht gefunden werden oder enthält einen Fehler."_s.arg(name),
-            Dialogs::Answer::Ok, Dialogs::Icon::Critical);
-        Wiring::WireWindows();
-        QVERIFY_EXCEPTION_THROWN(Shared<Frm_Main>(), Program::StartEnded);
-        Wiring::UnloadAll();
+        for (const QString& name : {u"taglist.lst"_s, u"attribute.lst"_s, u"tips.lst"_s}) {
+            cleanup();
+            init();
+            QFile::remove(m_folder->System(name));
+            m_dialogs->ExpectMessage(
+                u"Fehler"_s,
+                u"Die Datei '%1' kann nicht gefunden werden oder enthält einen Fehler."_s.arg(name),
+                Dialogs::Answer::Ok, Dialogs::Icon::Critical);
+            Wiring::WireWindows();
+            QVERIFY_EXCEPTION_THROWN(Shared<Frm_Main>(), Program::StartEnded);
+            Wiring::UnloadAll();
+        }
     }
 
     void greetsWithTheStartDialog() {
-        const ProgramFolder folder;
-        ScriptedDialogs dialogs;
-        const Driver::RunningProgram program;
-        Global::LastFile = folder.Write(u"verein.htm"_s, "-//W3C//DTD HTML 4.01");
+        StartProgram();
+        Global::LastFile = m_folder->Write(u"verein.htm"_s, "-//W3C//DTD HTML 4.01");
         Driver::InModal(u"Frm_Welcome"_s, [](QWidget* dialog) {
             dialog->findChild<QTabBar*>(u"Tab_Choice"_s)->setCurrentIndex(1);
             auto* list = dialog->findChild<QListWidget*>(u"Lvw_StartOption"_s);
@@ -100,10 +85,10 @@ private slots:
         });
         Driver::Trigger(u"Menu_File_NewDocument"_s);
         QVERIFY(!Loaded<Frm_Welcome>());
-        QCOMPARE(Shared<Frm_Code>().TextBox->Text(), u"-//W3C//DTD HTML 4.01"_s);
+        QCOMPARE(Box().Text(), u"-//W3C//DTD HTML 4.01"_s);
         Driver::InModal(u"Frm_Welcome"_s, [](QWidget*) { Driver::Click(u"Cmd_Control_1"_s); });
         Driver::Trigger(u"Menu_File_NewDocument"_s);
-        QCOMPARE(Shared<Frm_Code>().TextBox->Text(), u"-//W3C//DTD HTML 4.01"_s); // left alone
+        QCOMPARE(Box().Text(), u"-//W3C//DTD HTML 4.01"_s); // left alone
     }
 
     void asksAtTheExit_data() {
@@ -115,30 +100,66 @@ private slots:
     void asksAtTheExit() {
         QFETCH(bool, save);
         QFETCH(bool, possible);
-        const ProgramFolder folder;
-        ScriptedDialogs dialogs;
-        folder.Write(u"tmp/a.htm"_s, "x");
-        folder.Write(u"temp.htm"_s, "x");
-        const Driver::RunningProgram program;
-        Documents::OpenFile(folder.Write(u"seite.htm"_s, "alt\r\n"));
+        m_folder->Write(u"tmp/a.htm"_s, "x");
+        m_folder->Write(u"temp.htm"_s, "x");
+        StartProgram();
+        Documents::OpenFile(m_folder->Write(u"seite.htm"_s, "alt\r\n"));
         Driver::TypeCode(u"neu "_s);
-        Global::AutoPreView = true; // shows whether the settings were written
-        if (!possible) Global::CurrentFile = folder.Path(u"weg\\seite.htm"_s);
-        dialogs.ExpectMessage(
-            u"Beenden"_s, u"Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?"_s,
-            save ? Dialogs::Answer::Yes : Dialogs::Answer::No, Dialogs::Icon::Question);
-        if (!possible) {
-            dialogs.ExpectMessage(
-                u"Fehler"_s, u"Fehler beim Speichern der Datei. Stellen Sie sicher, dass die Datei nicht "
-                             "schreibgeschützt ist."_s);
-        }
+        Driver::Trigger(u"Menu_View_Events"_s); // whose place shows whether the settings were written
+        Driver::FindControl(u"Frm_Events"_s)->move(77, 88);
+        if (!possible) Global::CurrentFile = m_folder->Path(u"weg\\seite.htm"_s);
+        m_dialogs->ExpectUnsaved(u"Beenden"_s, save ? Dialogs::Answer::Yes : Dialogs::Answer::No);
+        if (!possible) m_dialogs->ExpectFailedSave();
         Shared<Frm_Main>().close();
         QVERIFY(!Shared<Frm_Main>().isVisible());
-        QCOMPARE(folder.Read(u"seite.htm"_s),
+        QCOMPARE(m_folder->Read(u"seite.htm"_s),
                  save && possible ? QByteArray("neu alt\r\n") : QByteArray("alt\r\n"));
-        QCOMPARE(folder.Read(u"edit.ini"_s).contains("AutoPreView=True"), possible);
-        QCOMPARE(folder.Read(u"bckup.tmp"_s), possible ? QByteArray() : QByteArray("neu alt\r\n\r\n"));
-        QVERIFY(!folder.Has(u"tmp"_s) && !folder.Has(u"temp.htm"_s));
+        QCOMPARE(m_folder->Read(u"edit.ini"_s).contains("EventToolLeft=1155\r\nEventToolTop=1320"), possible);
+        QCOMPARE(m_folder->Read(u"bckup.tmp"_s), possible ? QByteArray() : QByteArray("neu alt\r\n\r\n"));
+        QVERIFY(!m_folder->Has(u"tmp"_s) && !m_folder->Has(u"temp.htm"_s));
+    }
+
+    // Nothing that the program speaks of by a name is answered by silence.
+    void knowsEveryWindowThatIsNamed() {
+        Wiring::InstallWindows();
+        QSet<QString> rows;
+        for (const Windows::Row& row : Windows::Rows()) {
+            QVERIFY2(!rows.contains(row.name.toString()), qPrintable(row.name.toString()));
+            rows.insert(row.name.toString());
+            const bool hidden = row.command == u"Menu_Tools_SpellingCheck"; // a setting shows it
+            QVERIFY2(row.command.isEmpty() || Commands::StateOf(row.command.toString()).visible != hidden,
+                     qPrintable(row.command.toString()));
+        }
+        static const QRegularExpression name(u"u\"(Frm_[A-Za-z]+|WAPBrowser)\""_s);
+        int seen = 0;
+        QDirIterator sources(SourceFile(u"src"_s), {u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (sources.hasNext()) {
+            QFile file(sources.next());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QString text = QString::fromUtf8(file.readAll());
+            for (const auto& hit : name.globalMatch(text)) {
+                if (hit.captured(1) == u"Frm_Main") continue; // shown by the start alone
+                QVERIFY2(rows.contains(hit.captured(1)),
+                         qPrintable(file.fileName() + u' ' + hit.captured(1)));
+                ++seen;
+            }
+        }
+        QVERIFY(seen > rows.size());
+    }
+
+    void answersEveryCommandAndCall() {
+        StartProgram();
+        const QStringList toCome{
+            u"Menu_File_Print"_s,         u"Menu_File_ProjectBackUp"_s,   u"Menu_File_UploadAssistant"_s,
+            u"Menu_View_SyntaxPreView"_s, u"Menu_Insert_PageArtBox"_s,    u"Menu_Project_Jump"_s,
+            u"Menu_Project_Set"_s,        u"Menu_Tools_SpeedCheck"_s,     u"Menu_Tools_Connection"_s,
+            u"x_Menu_Tools_Debug"_s,      u"Menu_Menu_Code_Attribute_0"_s};
+        for (const Commands::MenuRow& row : Commands::MenuTree()) {
+            if (row.flags & (Commands::Submenu | Commands::Separator)) continue;
+            const QString name = row.name.toString();
+            QVERIFY2(Frm_Main::HasCommand(name) != toCome.contains(name), qPrintable(name));
+        }
+        QCOMPARE(Neighbours::Unanswered(), QStringList{u"GenerateWAPPreview"_s});
     }
 };
 

@@ -9,53 +9,15 @@
 #include "shell/wiring.h"
 #include "state/settings.h"
 #include "support/driver.h"
-#include "support/test.h"
+#include "support/folder_test.h"
+#include "support/web_server.h"
 
 #include <QElapsedTimer>
 #include <QPlainTextEdit>
-#include <QTcpServer>
-#include <QTcpSocket>
-#include <QTimer>
 
 using UpdateCheck::Outcome;
 
 namespace {
-
-// An HTTP server on loopback that sends each answer's parts one after the other.
-class Server {
-public:
-    Server(QList<QByteArray> parts, int millisecondsBetween, bool closes = true)
-        : m_parts(std::move(parts)), m_between(millisecondsBetween), m_closes(closes) {
-        m_server.listen(QHostAddress::LocalHost);
-        QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] {
-            QTcpSocket* socket = m_server.nextPendingConnection();
-            ++requests;
-            QObject::connect(socket, &QTcpSocket::bytesWritten, socket,
-                             [this](qint64 bytes) { written += bytes; });
-            QTimer::singleShot(m_between, socket, [this, socket] { SendNext(socket, 0); });
-        });
-    }
-    QString Address() const { return u"http://127.0.0.1:%1/update.htm"_s.arg(m_server.serverPort()); }
-
-    int requests = 0;
-    qint64 written = 0;
-
-private:
-    void SendNext(QTcpSocket* socket, qsizetype part) {
-        if (part == m_parts.size()) {
-            if (m_closes) socket->disconnectFromHost();
-            return;
-        }
-        socket->write(m_parts[part]);
-        socket->flush();
-        QTimer::singleShot(m_between, socket, [this, socket, part] { SendNext(socket, part + 1); });
-    }
-
-    QTcpServer m_server;
-    QList<QByteArray> m_parts;
-    int m_between;
-    bool m_closes;
-};
 
 const QByteArray Head = "HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\n\r\n";
 
@@ -71,26 +33,22 @@ Outcome Look(const QString& address, double timeOut = 3, QStringList* told = nul
 
 } // namespace
 
-class UpdateCheckTest : public QObject {
+class UpdateCheckTest : public FolderTest {
     Q_OBJECT
 
 private slots:
-    void readsTitles_data() {
-        const auto row = Columns<QByteArray, QString>("page", "title");
-        row("blanks around", "<TITLE lang=de>\r\n 147\t</TITLE >", "147");
-        row("the first one counts", "<title>1</title><title>147</title>", "1");
-        row("in a comment", "<!-- <title>999</title> --><title>147</title>", "147");
-        row("in a script", "<script>a='<title>999</title>'</script><style></style><title>147</title>", "147");
-        row("another tag", "<titles>147</titles>", "");
-        row("no end", "<title>147", "");
-        row("cut off", "<html><title", "");
-        row("many brackets", QByteArray(100000, '<'), "");
-        row("binary", QByteArray("\0<\xff<title>\0\xe4</title>", 20), QString(u"\0ä"_s));
-    }
     void readsTitles() {
-        QFETCH(QByteArray, page);
-        QFETCH(QString, title);
-        QCOMPARE(UpdateCheck::TitleOf(page), title);
+        for (const auto& [page, title] :
+             {std::pair<QByteArray, QString>("<TITLE lang=de>\r\n 147\t</TITLE >", "147"),
+              {"<title>1</title><title>147</title>", "1"},
+              {"<!-- <title>999</title> --><title>147</title>", "147"},
+              {"<script>a='<title>999</title>'</script><style></style><title>147</title>", "147"},
+              {"<titles>147</titles>", ""},
+              {"<title>147", ""},
+              {"<html><title", ""},
+              {QByteArray(100000, '<'), ""},
+              {QByteArray("\0<\xff<title>\0\xe4</title>", 20), QString(u"\0ä"_s)}})
+            QVERIFY2(UpdateCheck::TitleOf(page) == title, page.left(80));
     }
 
     void judgesTitles() {
@@ -106,7 +64,6 @@ private slots:
         const auto row = Columns<QList<QByteArray>, bool>("parts", "update");
         const QByteArray error = "\r\nConnection: close\r\n\r\n<title>404</title>";
         row("newer", {Page("147")}, true);
-        row("the same", {Page("146")}, false);
         row("split over packets",
             {"HTTP/1.1 200 O", "K\r\nConnection: close\r\n\r\n<ti", "tle>14", "7</title>"}, true);
         row("error page", {"HTTP/1.1 404 Not Found" + error}, false);
@@ -120,7 +77,7 @@ private slots:
     void asksTheServer() {
         QFETCH(QList<QByteArray>, parts);
         QFETCH(bool, update);
-        Server server(parts, 30);
+        WebServer server(parts, 30);
         QStringList told;
         QCOMPARE(Look(server.Address(), 3, &told), update ? Outcome::NewUpdate : Outcome::NoUpdate);
         QVERIFY(server.requests >= 1); // an answer that is none is asked for again
@@ -130,22 +87,22 @@ private slots:
     void readsNoMoreThanTheHeadOfAHugePage() {
         QList<QByteArray> parts{Page("147")};
         for (int i = 0; i < 400; ++i) parts << QByteArray(100000, 'x');
-        Server huge(parts, 1);
+        WebServer huge(parts, 1);
         QElapsedTimer clock;
         clock.start();
         QCOMPARE(Look(huge.Address()), Outcome::NewUpdate);
         QVERIFY(clock.elapsed() < 2000);
         QVERIFY(huge.written < 4000000); // what the system buffers on the way, not the 40 MB
-        Server late({Head + QByteArray(200000, ' ') + "<title>147</title>"}, 1);
+        WebServer late({Head + QByteArray(200000, ' ') + "<title>147</title>"}, 1);
         QCOMPARE(Look(late.Address()), Outcome::NoUpdate);
     }
 
     void aSlowServerIsWaitedForAndASilentOneGivenUp() {
-        Server slow({Head, "<title>14", "7</title>"}, 250);
+        WebServer slow({Head, "<title>14", "7</title>"}, 250);
         QCOMPARE(Look(slow.Address()), Outcome::NewUpdate);
         for (const QList<QByteArray>& said :
              {QList<QByteArray>{}, QList<QByteArray>{Head, "<title>147</title>"}}) {
-            Server silent(said, 1, false);
+            WebServer silent(said, 1, false);
             QStringList told;
             QElapsedTimer clock;
             clock.start();
@@ -166,12 +123,10 @@ private slots:
     }
 
     void offersTheDownload() {
-        const ProgramFolder folder(ProgramFolder::Content::Empty);
         for (const bool yes : {false, true}) {
-            ScriptedDialogs dialogs;
-            Server server({Page("147")}, 1);
+            WebServer server({Page("147")}, 1);
             Global::DontShowNewUpdate = !yes;
-            if (yes) dialogs.ExpectAddress(Addresses::UpdateArchive);
+            if (yes) m_dialogs->ExpectAddress(Addresses::UpdateArchive);
             Shared<Frm_Load>().show();
             Driver::InModal(u"Frm_NewUpdate"_s, [=](QWidget*) {
                 QVERIFY(!Loaded<Frm_Load>());
@@ -185,8 +140,7 @@ private slots:
     }
 
     void showsWhatIsNew() {
-        const ProgramFolder folder(ProgramFolder::Content::Empty);
-        folder.Write(u"update.log"_s, "Update 14.6\r\n- sch\xf6ner\r\n");
+        m_folder->Write(u"update.log"_s, "Update 14.6\r\n- sch\xf6ner\r\n");
         Wiring::WireWindows();
         for (const bool never : {false, true}) {
             Driver::InModal(u"Frm_UpdateMessage"_s, [=](QWidget* dialog) {
@@ -201,32 +155,25 @@ private slots:
         }
     }
 
-    void readsRichText_data() {
-        const auto row = Columns<QByteArray, QString>("file", "text");
-        row("plain", "a {b} \\c", "a {b} \\c");
-        row("rich",
-            QByteArray("{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}{\\*\\generator X;}\r\n"
-                       "\\b Neu\\b0 : \\'e4 \\u8364?\\{x\\}\\par\r\n\\bullet\\tab zwei\\par}"),
-            "Neu: ä €{x}\n•\tzwei");
-        row("two characters for one", "{\\rtf1{\\uc2\\u228 ??x}\\u246 ?y}", "äxöy");
-        row("broken off", "{\\rtf1 abc\\'e", u"abc"_s + QChar(0x0e));
-        row("one bracket too many", "{\\rtf1 a}}}b\\", "ab");
-        row("deep", QByteArray("{\\rtf1") + QByteArray(200000, '{') + "x", "x");
-        row("wild numbers", "{\\rtf1\\uc99999999999 \\bin-5 a\\bin999999999 b", "a");
-    }
     void readsRichText() {
-        QFETCH(QByteArray, file);
-        QFETCH(QString, text);
-        QCOMPARE(UpdateLog::ReadableText(file), text);
+        for (const auto& [file, text] :
+             {std::pair<QByteArray, QString>("a {b} \\c", "a {b} \\c"),
+              {"{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}{\\*\\generator X;}\r\n"
+               "\\b Neu\\b0 : \\'e4 \\u8364?\\{x\\}\\par\r\n\\bullet\\tab zwei\\par}",
+               "Neu: ä €{x}\n•\tzwei"},
+              {"{\\rtf1{\\uc2\\u228 ??x}\\u246 ?y}", "äxöy"}, // two characters for one
+              {"{\\rtf1 abc\\'e", u"abc"_s + QChar(0x0e)},
+              {"{\\rtf1 a}}}b\\", "ab"},
+              {QByteArray("{\\rtf1") + QByteArray(200000, '{') + "x", "x"},
+              {"{\\rtf1\\uc99999999999 \\bin-5 a\\bin999999999 b", "a"}})
+            QCOMPARE(UpdateLog::ReadableText(file), text);
     }
 
     void theCheckOfTheStartBeepsAfterItsTime() {
-        const ProgramFolder folder(ProgramFolder::Content::Empty);
-        ScriptedDialogs dialogs;
         UpdateCheck::CheckForUpdate(Addresses::UpdateCheck); // a placeholder: no wait, no beep, no splash
         QVERIFY(!Loaded<Frm_Load>());
-        Server silent({}, 1, false);
-        dialogs.ExpectBeep();
+        WebServer silent({}, 1, false);
+        m_dialogs->ExpectBeep();
         UpdateCheck::CheckForUpdate(silent.Address());
         Unload<Frm_Load>();
     }

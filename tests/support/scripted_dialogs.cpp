@@ -28,12 +28,30 @@ ScriptedDialogs::Step ScriptedDialogs::Take(const QString& kind, const QString& 
     return step;
 }
 
+void ScriptedDialogs::ExpectUnsaved(const QString& title, Dialogs::Answer answer) {
+    ExpectMessage(title, u"Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?"_s,
+                  answer, Dialogs::Icon::Question);
+}
+
+void ScriptedDialogs::ExpectFailedSave() {
+    ExpectMessage(u"Fehler"_s,
+                  u"Fehler beim Speichern der Datei. Stellen Sie sicher, dass die Datei nicht "
+                  "schreibgeschützt ist."_s,
+                  Dialogs::Answer::Ok, Dialogs::Icon::Critical);
+}
+
+void ScriptedDialogs::ExpectFailedLoad() {
+    ExpectMessage(u"Fehler"_s,
+                  u"Fehler beim Laden der Datei. Stellen Sie sicher, dass die Datei existiert und nicht "
+                  "geschützt ist."_s,
+                  Dialogs::Answer::Ok, Dialogs::Icon::Critical);
+}
+
 Dialogs::Answer ScriptedDialogs::Ask(const Dialogs::Message& message) {
     lastMessage = message;
     const Step step = Take(u"message"_s, message.title, message.text);
-    if (step.icon != Dialogs::Icon::None && step.icon != message.icon) {
+    if (step.icon != Dialogs::Icon::None && step.icon != message.icon)
         QTest::qFail("the message has another icon", __FILE__, __LINE__);
-    }
     return step.button;
 }
 
@@ -42,12 +60,10 @@ QString ScriptedDialogs::AskText(const QString& prompt, const QString& title, co
 }
 
 QString ScriptedDialogs::ChooseOpenFile(const Dialogs::FileQuestion& question) {
-    lastFileQuestion = question;
     return Take(u"open"_s, question.title, {}).answer;
 }
 
 QString ScriptedDialogs::ChooseSaveFile(const Dialogs::FileQuestion& question) {
-    lastFileQuestion = question;
     return Take(u"save"_s, question.title, {}).answer;
 }
 

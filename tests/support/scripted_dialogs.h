@@ -21,9 +21,12 @@ public:
     void ExpectText(const QString& title, const QString& answer) { Expect("input", title, answer); }
     void ExpectOpenFile(const QString& title, const QString& path) { Expect("open", title, path); }
     void ExpectSaveFile(const QString& title, const QString& path) { Expect("save", title, path); }
-    void ExpectFolder(const QString& title, const QString& path) { Expect("folder", title, path); }
     void ExpectBeep() { Expect("beep", {}, {}); }
     void ExpectAddress(const QString& address) { Expect("address", address, {}); }
+    // What is said of a text that is not saved, and where a file cannot be written or read.
+    void ExpectUnsaved(const QString& title, Dialogs::Answer answer);
+    void ExpectFailedSave();
+    void ExpectFailedLoad();
     // Whether all expected questions have come.
     bool Finished() const { return m_script.empty(); }
 
@@ -35,7 +38,6 @@ public:
     void Beep() override;
     void OpenAddress(const QString& address) override;
 
-    Dialogs::FileQuestion lastFileQuestion;
     Dialogs::Message lastMessage;
 
 private:

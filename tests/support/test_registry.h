@@ -10,8 +10,6 @@
 // REGISTER_TEST_AS(Undo, UndoTest) where the name is taken already.
 namespace TestRegistry {
 bool Add(const char* name, std::function<std::unique_ptr<QObject>()> create);
-// Runs the class `name`, or all when it is empty; returns the number of failures.
-int Run(const QString& name, QStringList arguments);
 } // namespace TestRegistry
 
 #define REGISTER_TEST_AS(Name, Class)                                                                        \

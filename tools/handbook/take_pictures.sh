@@ -52,7 +52,7 @@ is_wanted() { [ "$wanted" = "  " ] || [[ $wanted == *" $1 "* ]]; }
 # The window in front, with its frame, as the picture of that name.
 take() {
     sleep 1
-    import -frame -window "$(xdotool getactivewindow)" "$pictures/$1.png"
+    timeout 20 import -frame -window "$(xdotool getactivewindow)" "$pictures/$1.png"
     echo "data/support/bilder/$1.png"
 }
 # Opens a dialog by the access keys of its menu items, does what the rest of the line says, takes the picture, closes.
@@ -85,6 +85,11 @@ fill_table() {
 }
 
 dialog tabelle "alt+e b e" fill_table
+if is_wanted tabelle; then # the draft is not to be kept
+    sleep 1
+    keys alt+n
+    sleep 1
+fi
 dialog frames "alt+e f" true
 dialog metatags "alt+e m" true
 dialog styleelement "alt+e e e" true
