@@ -4,19 +4,25 @@ not."""
 
 import sys
 
-PRESENT = """Häusern Hauses gegangen schönstem Vereinsheimes Vereinsheimen anzufangen angefangen anfängst fing rätst hältst liest
-nimm gib lädst wüsste wäre ginge brächte arbeitest rechnete öffnet gesammelt sammle ändere studiert telefonierte beendet
-vorbereitet vorzubereiten übersetzt übersetzte verstanden überraschend wäscht größerem beste höher teurer dunkler edlen
-hübscheste heißeste spannendsten unklaren Möglichkeiten Ergebnisse Ergebnisses Museen Autoren Herrn Menschen Namens
-Freundinnen Lehrerinnen Kindern Gärten Männern Tagen Tags Tages Betrages Friedens Bahnhöfen Österreicherinnen Franzosen
-Münchner Berliner italienischer Browsern Webseiten Startseite einundzwanzig siebzehnte achtzigste tauend groß Maße
-Straßenbahnen Vereinssatzung vergeben begangen angewidert begehrt wiederhergestellt verkauft Verkäufen Zauberinnen zB und darüber""".split()
+PRESENT = """
+Häusern Hauses gegangen schönstem Vereinsheimes Vereinsheimen anzufangen angefangen anfängst fing rätst hältst liest
+nimm gib lädst wüsste wäre ginge brächte arbeitest rechnete öffnet gesammelt sammle ändere studiert telefonierte
+beendet vorbereitet vorzubereiten übersetzt übersetzte verstanden überraschend wäscht größerem beste höher teurer
+dunkler edlen hübscheste heißeste spannendsten unklaren Möglichkeiten Ergebnisse Ergebnisses Museen Autoren Herrn
+Menschen Namens Freundinnen Lehrerinnen Kindern Gärten Männern Tagen Tags Tages Betrages Friedens Bahnhöfen
+Österreicherinnen Franzosen Münchner Berliner italienischer Browsern Webseiten Startseite einundzwanzig siebzehnte
+achtzigste tauend groß Maße Straßenbahnen Vereinssatzung vergeben begangen angewidert begehrt wiederhergestellt
+verkauft Verkäufen Zauberinnen Kürbisse Chefs verrät verlassen Herzens Helden Äpfeln zB und darüber
+""".split()
 
-ABSENT = """Häusers gegeht gehte gegangte schöntem gutere gutesten hoche anfangzu geanfangen zubekommen
-gebekommen geübersetzt gestudiert getelefoniert arbeitst rechnt öffnst Menschs Herrs Lehrerins Freundins
-Museums' Museume Autore Kinders Männen Gärtens Ergebnise Nameses sammelest ändernst liesst
-hübschste spannendeste einsundzwanzig dreite achtte Bahnhöfer Strassen daß muß geverstanden
-missgeverstanden vorgebereitet geverloren vergegeben aufgehrt Zaubererinnen verkaüfen Frauens Mädchener Wörterns schnellter""".split()
+ABSENT = """
+Häusers gegeht gehte gegangte schöntem gutere gutesten hoche anfangzu geanfangen zubekommen gebekommen geübersetzt
+gestudiert getelefoniert arbeitst rechnt öffnst Menschs Herrs Lehrerins Freundins Museums' Museume Autore Kinders
+Männen Gärtens Ergebnise Nameses sammelest ändernst liesst hübschste spannendeste einsundzwanzig dreite achtte
+Bahnhöfer Strassen daß muß geverstanden missgeverstanden vorgebereitet geverloren vergegeben aufgehrt Zaubererinnen
+Kürbises Chefes Shirtes verratete verlasste Kürbise Herzes Helds Buses Kniee Willes Statuse verkaüfen Frauens
+Mädchener Wörterns schnellter
+""".split()
 
 
 def faults_of_words(words, removed):

@@ -55,8 +55,10 @@ def takes_both_genitives(word):
 
 def genitives(word):
     """The genitives of a masculine or neuter noun that is not weak."""
-    if word.endswith("nis") or word.endswith(("us", "as", "os")) and syllables(word) > 1:
-        return {word + "ses"} if word.endswith("nis") else {word}
+    if re.search(r"[^aeiou]is$|^Bus$", word):
+        return {word + "ses"}
+    if word.endswith(("us", "as", "os")) and syllables(word) > 1:
+        return {word}
     if word.endswith(SIBILANTS):
         return {word + "es"}
     if word.endswith("sch"):
@@ -83,13 +85,13 @@ def noun(word, gender, mark):
     if mark == "-ns":
         return {word, word + "n", word + "ns"}
     if mark == "in":
-        root = word[:-2] if word.endswith("erer") else word  # Zauberer, Zauberin
+        root = word[:-2] if re.search(r"[^aeiouäöü]erer$", word) else word  # Zauberer, Zauberin; but Schmiererin
         return noun(word, gender, "-") | noun(root + "in", "f", "nen")
-    forms = {word} if gender == "f" else {word} | genitives(word)
-    if mark != "0":
-        plural = told or plural_of(word, mark)
-        forms |= {plural, dative_plural(plural)}
-    return forms
+    plural = told or plural_of(word, mark) if mark != "0" else word
+    forms = {word, plural, dative_plural(plural)} if mark != "0" else {word}
+    if gender == "f":
+        return forms
+    return forms | ({plural} if plural == word + "s" else genitives(word))  # des Chefs, never Chefes
 
 
 def dative_plural(plural):

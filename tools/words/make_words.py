@@ -174,23 +174,26 @@ def words_of_list(path):
 
 def main():
     parser = argparse.ArgumentParser(description="Makes the word file of the spelling check.")
-    parser.add_argument("--to", type=Path, default=WORD_FILE, help="file to write (default: data/german.wds)")
+    parser.add_argument("--to", type=Path, help="file to write (default: data/german.wds, but with --from none)")
     parser.add_argument("--from", dest="source", type=Path, help="take the words of this list, one a line")
     parser.add_argument("--check", action="store_true", help="check the tables' words and data/german.wds")
-    parser.add_argument("--sample", type=int, metavar="COUNT", help="print that many words by chance, for proof-reading")
+    parser.add_argument("--sample", type=int, metavar="COUNT", help="print that many words by chance")
     options = parser.parse_args()
+    if options.source and not options.to:
+        parser.error("--from needs --to: data/german.wds is made from the tables")
+    target = options.to or WORD_FILE
     try:
         words = words_of_list(options.source) if options.source else all_words()
         if options.check:
-            return checks.run(words, options.to, encoded(words), REMOVED)
+            return checks.run(words, target, encoded(words), REMOVED)
         if options.sample:
             print("\n".join(random.sample(words, min(options.sample, len(words)))))
             return 0
-        options.to.write_bytes(encoded(words))
+        target.write_bytes(encoded(words))
     except (TableError, OSError) as fault:
         print(fault, file=sys.stderr)
         return 1
-    print(f"{options.to}: {len(words)} words")
+    print(f"{target}: {len(words)} words")
     return 0
 
 
