@@ -4,7 +4,7 @@
 #include "platform/files.h"
 #include "platform/literals.h"
 #include "support/program_folder.h"
-#include "support/test_registry.h"
+#include "support/test.h"
 
 class ClassListTest : public QObject {
     Q_OBJECT

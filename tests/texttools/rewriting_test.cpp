@@ -3,7 +3,7 @@
 // replacement a round, on random texts.
 #include "platform/literals.h"
 #include "platform/text.h"
-#include "support/test_registry.h"
+#include "support/test.h"
 #include "texttools/code_packing.h"
 #include "texttools/spelling.h"
 #include "texttools/umlaut_correction.h"

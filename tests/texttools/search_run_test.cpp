@@ -3,7 +3,7 @@
 #include "documents/text_buffer.h"
 #include "platform/literals.h"
 #include "platform/text.h"
-#include "support/test_registry.h"
+#include "support/test.h"
 #include "texttools/search_run.h"
 
 #include <QRandomGenerator>

@@ -1,30 +1,17 @@
 // SPDX-License-Identifier: MIT
 // The text tools by their controls, in the real program.
-#include "documents/document_commands.h"
-#include "documents/frm_code.h"
-#include "documents/new_documents.h"
 #include "platform/literals.h"
 #include "state/commands.h"
-#include "state/global.h"
 #include "state/settings.h"
-#include "support/driver.h"
-#include "support/program_folder.h"
-#include "support/scripted_dialogs.h"
-#include "support/test_registry.h"
-#include "texttools/frm_format_sub_class.h"
+#include "support/program_test.h"
 #include "texttools/frm_search.h"
 
 #include <QLineEdit>
 #include <QListWidget>
 
-class TextToolsTest : public QObject {
+class TextToolsTest : public ProgramTest {
     Q_OBJECT
 
-    std::unique_ptr<ProgramFolder> m_folder;
-    std::unique_ptr<ScriptedDialogs> m_dialogs;
-    std::unique_ptr<Driver::RunningProgram> m_program;
-
-    static Txt_Code& Box() { return *Shared<Frm_Code>().TextBox; }
     void Open(const QByteArray& text) {
         Documents::OpenFile(m_folder->Write(u"seite.htm"_s, "-//W3C//DTD HTML\r\n" + text));
     }
@@ -37,18 +24,6 @@ class TextToolsTest : public QObject {
     void ExpectEnd() { m_dialogs->ExpectMessage(u"Suchen"_s, u"Das Durchsuchen ist beendet."_s); }
 
 private slots:
-    void init() {
-        m_folder = std::make_unique<ProgramFolder>();
-        m_dialogs = std::make_unique<ScriptedDialogs>();
-        m_program = std::make_unique<Driver::RunningProgram>();
-        Global::AutoDebug = Global::AutoProjectManager = false;
-    }
-    void cleanup() {
-        m_program.reset();
-        m_dialogs.reset();
-        m_folder.reset();
-    }
-
     void searchesAndReplaces() {
         Open("eins zwei eins");
         Box().SetSelStart(18);
