@@ -24,6 +24,7 @@ CHAPTERS = [
     ("einfuegen.htm", "Einfügen und Tags umwandeln"),
     ("toolfenster.htm", "Toolfenster"),
     ("dialoge.htm", "Tabellen, Styles und andere Dialoge"),
+    ("textwerkzeuge.htm", "Suchen und Textwerkzeuge"),
     ("debugger.htm", "Debugger"),
     ("projekt.htm", "ProjektManager"),
     ("vorschau.htm", "Vorschau und Navigationsleiste"),

@@ -55,8 +55,8 @@ take() {
     timeout 20 import -frame -window "$(xdotool getactivewindow)" "$pictures/$1.png"
     echo "data/support/bilder/$1.png"
 }
-# Opens a dialog by the access keys of its menu items, does what the rest of the line says, takes the picture, closes.
-dialog() { # name, keys of the menu, command that fills the dialog
+# Opens a dialog by the keys of its command, does what the rest of the line says, takes the picture, closes.
+dialog() { # name, keys, command that fills the dialog
     is_wanted "$1" || return 0
     local name=$1 menu=$2
     shift 2
@@ -90,6 +90,7 @@ if is_wanted tabelle; then # the draft is not to be kept
     keys alt+n
     sleep 1
 fi
+dialog suchen F3 say Verein
 dialog frames "alt+e f" true
 dialog metatags "alt+e m" true
 dialog styleelement "alt+e e e" true
