@@ -43,8 +43,8 @@ protected:
 
 private:
     void BackToCode();
-    // Moves the window below the other tools that stand on the very same spot, as all do before they have been
-    // moved for the first time.
+    // Moves the window below the other tools that stand on the very same spot, as all do before they have
+    // been moved for the first time.
     void StepAside();
     // The button that a key presses: the one with the focus or that with the access key; none for other keys.
     QAbstractButton* ButtonFor(const QKeyEvent& event) const;
