@@ -18,6 +18,7 @@ QIcon IconFor(const QString& key) {
         {u"HTMLFile"_s, u"page"}, {u"WMLFile"_s, u"browser_wap"},   {u"CSS"_s, u"style_sheet"},
         {u"VBS"_s, u"script"},    {u"JS"_s, u"script_file"},        {u"Image"_s, u"picture"},
         {u"UserDef2"_s, u"file"}, {u"Extern2"_s, u"external_link"}, {u"Error3"_s, u"file_missing"},
+        {u"HTML"_s, u"page"},     {u"UnknownFile2"_s, u"file"},
     };
     return Icons::Named(drawings.value(key));
 }

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "project/wire_project.h"
 
+#include "documents/document_commands.h"
+#include "platform/dialogs.h"
+#include "platform/literals.h"
+#include "platform/modal.h"
 #include "project/frm_project_manager.h"
+#include "project/frm_speed_check.h"
 #include "state/global.h"
 #include "state/neighbours.h"
 
@@ -36,6 +41,17 @@ void WireProject() {
 void Menu_Tools_ProjectManager_Click() {
     Shared<Frm_ProjectManager>().BringToFront();
     Shared<Frm_ProjectManager>().SearchLinks();
+}
+
+void Menu_Tools_SpeedCheck_Click() {
+    Documents::Menu_File_Save_Click();
+    if (!Global::SaveSucceeded) return;
+    if (Global::CurrentFile.isEmpty()) {
+        Dialogs::Tell(u"SpeedCheck"_s, u"Sie müssen die Seite zuerst speichern."_s,
+                      Dialogs::Icon::Exclamation);
+        return;
+    }
+    ShowModal<Frm_SpeedCheck>();
 }
 
 } // namespace Project

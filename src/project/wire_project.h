@@ -7,5 +7,7 @@ namespace Project {
 void WireProject();
 
 void Menu_Tools_ProjectManager_Click();
+// Saves the document and shows what it costs its readers.
+void Menu_Tools_SpeedCheck_Click();
 
 } // namespace Project

@@ -2,7 +2,7 @@
 #include "project/link_scanner.h"
 
 #include "platform/events.h"
-#include "project/link_list.h"
+#include "documents/link_list.h"
 #include "support/test.h"
 
 #include <vector>
