@@ -13,21 +13,20 @@
 
 #include <QElapsedTimer>
 #include <QHeaderView>
-#include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 #include <QTreeView>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
 namespace {
 constexpr int EventPause = 20; // milliseconds between two runs of the pending events
-constexpr int FileColumn = 340;
 } // namespace
 
 Frm_SpeedCheck::Frm_SpeedCheck()
     : m_files(new FileListModel({u"Typ"_s, u"Datei"_s, u"Größe"_s}, this)), Lvw_Files(new QTreeView),
-      Lvw_Message(new QListWidget) {
+      Lvw_Message(new QTreeWidget) {
     setObjectName(u"Frm_SpeedCheck"_s);
     setWindowTitle(u"SpeedCheck"_s);
     Lvw_Files->setObjectName(u"Lvw_Files"_s);
@@ -35,7 +34,10 @@ Frm_SpeedCheck::Frm_SpeedCheck()
     Lvw_Files->setModel(m_files);
     Lvw_Files->setRootIsDecorated(false);
     Lvw_Files->setUniformRowHeights(true);
-    Lvw_Files->header()->resizeSection(1, FileColumn);
+    Lvw_Files->header()->setStretchLastSection(false);
+    Lvw_Files->header()->setSectionResizeMode(1, QHeaderView::Stretch);
+    Lvw_Message->setHeaderLabel(u"Meldung"_s);
+    Lvw_Message->setRootIsDecorated(false);
     Lvw_Message->setObjectName(u"Lvw_Message"_s);
     Lvw_Message->setAccessibleName(u"Meldung"_s);
     auto* close = new QPushButton(u"S&chließen"_s);
@@ -97,7 +99,8 @@ void Frm_SpeedCheck::Run() {
     if (!alive || m_left) return;
     show();
     for (const QString& message : PageWeight::Messages(sums)) {
-        new QListWidgetItem(Icons::Named(u"information"), message, Lvw_Message);
+        auto* row = new QTreeWidgetItem(Lvw_Message, {message});
+        row->setIcon(0, Icons::Named(u"information"));
     }
     if (sums.cyclic) {
         Dialogs::Tell(u"SpeedCheck"_s,

@@ -6,8 +6,8 @@
 #include <QDialog>
 
 class FileListModel;
-class QListWidget;
 class QTreeView;
+class QTreeWidget;
 
 // Shows what the document costs the one who loads it: the files, their sizes, and how long they take.
 class Frm_SpeedCheck : public QDialog, public SharedWindow {
@@ -28,5 +28,5 @@ private:
     bool m_left = false;
     FileListModel* const m_files;
     QTreeView* const Lvw_Files;
-    QListWidget* const Lvw_Message;
+    QTreeWidget* const Lvw_Message;
 };
