@@ -3,13 +3,13 @@
 
 #include "documents/code_access.h"
 #include "documents/document_file.h"
+#include "documents/link_list.h"
 #include "documents/paths.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/files.h"
 #include "platform/text.h"
 #include "project/file_management.h"
-#include "project/link_list.h"
 #include "state/global.h"
 
 #include <QHash>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "texttools/class_list.h"
 
+#include "documents/link_list.h"
 #include "documents/paths.h"
 #include "documents/text_buffer.h"
 #include "platform/files.h"
@@ -203,37 +204,14 @@ private:
 
     // The sheets among all addresses in url(), src and href, whatever tag or rule they stand in.
     QStringList LinkedSheets(const QString& text, const QString& folder) {
+        const LinkList list = FindLinks(text, {LinkMarker::Href, LinkMarker::Src, LinkMarker::Url});
+        if (list.cutShort) m_found.openLink = true;
         QStringList sheets;
-        const QString lower = Text::LowerCase(text);
-        struct Kind {
-            QStringView opening;
-            QStringView closing;
-            Text::Finder finder;
-        };
-        Kind kinds[] = {{u"url(", u")", {lower, u"url("}},
-                        {u"src=\"", u"\"", {lower, u"src=\""}},
-                        {u"href=\"", u"\"", {lower, u"href=\""}}};
-        qsizetype from = 1;
-        while (true) {
-            const Kind* nearest = nullptr;
-            qsizetype at = 0;
-            for (Kind& kind : kinds) {
-                const qsizetype hit = kind.finder.From(from);
-                if (hit == 0 || (nearest && hit > at)) continue;
-                nearest = &kind;
-                at = hit;
-            }
-            if (!nearest) return sheets;
-            const qsizetype begin = at + nearest->opening.size();
-            const qsizetype end = Text::Find(lower, nearest->closing, begin);
-            if (end == 0) {
-                m_found.openLink = true;
-                return sheets;
-            }
-            const QString sheet = SheetOf(Unquoted(Text::Middle(text, begin, end - begin)), folder);
+        for (const QString& link : list.links) {
+            const QString sheet = SheetOf(Unquoted(link), folder);
             if (!sheet.isEmpty()) sheets.append(sheet);
-            from = end;
         }
+        return sheets;
     }
 
     static QString Unquoted(QStringView link) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "project/link_list.h"
+#include "documents/link_list.h"
 
 #include "platform/text.h"
 
