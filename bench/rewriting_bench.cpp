@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Umlauts both ways, comments and packing at three sizes: the logic alone, and through the real code box,
-// with the undo copies, to the painted code. Processor time, and its growth from size to size. Usage:
-// QT_QPA_PLATFORM=offscreen rewriting_bench
+// with the undo copies, to the painted code. Processor time, and its growth.
+//
+// Usage: QT_QPA_PLATFORM=offscreen rewriting_bench
 #include "documents/document_commands.h"
 #include "documents/frm_code.h"
 #include "documents/undo.h"
@@ -43,7 +44,7 @@ QString Decode(const QString& text) { return UmlautCorrection::Decode(text); }
 QString Strip(const QString& text) { return CodePacking::WithoutComments(text).text; }
 QString Pack(const QString& text) { return CodePacking::InOneLine(Strip(text)); }
 
-// Every character of the page in the code box by `rewrite`.
+// The whole page in the code box by way of `rewrite`.
 template<QString (*rewrite)(const QString&)> void RewriteCode() {
     const QString text = Neighbours::TheCodeBox()->Text();
     Undo::PushUndo();
