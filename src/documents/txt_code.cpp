@@ -12,6 +12,23 @@
 #include <QTextLayout>
 #include <algorithm>
 
+namespace {
+
+// Characters without a blank between them that are still looked at as one word. Where a line may be broken
+// behind words only, the layout passes over the rest of the word for each line anew.
+constexpr qsizetype LongestWord = 10'000;
+
+bool HasLongerWord(QStringView text) {
+    qsizetype length = 0;
+    for (const QChar c : text) {
+        length = c == u' ' || c == u'\t' || c == u'\n' ? 0 : length + 1;
+        if (length > LongestWord) return true;
+    }
+    return false;
+}
+
+} // namespace
+
 Txt_Code::Txt_Code(QWidget* parent) : QPlainTextEdit(parent) {
     setObjectName(u"Txt_Code"_s);
     setAccessibleName(u"Code"_s);
@@ -21,7 +38,7 @@ Txt_Code::Txt_Code(QWidget* parent) : QPlainTextEdit(parent) {
     font.setPointSize(10);
     setFont(font);
     setTabStopDistance(8 * fontMetrics().horizontalAdvance(u' '));
-    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    WrapWords(true);
     setFrameShape(QFrame::NoFrame);
     viewport()->setMouseTracking(true);
     connect(document(), &QTextDocument::contentsChange, this, &Txt_Code::TakeDocumentChange);
@@ -53,6 +70,11 @@ void Txt_Code::TakeDocumentChange(int position, int removed, int added) {
     text.reserve(m_text.size() - (end - begin) + inserted.size());
     text.append(QStringView(m_text).first(begin)).append(inserted).append(QStringView(m_text).sliced(end));
     m_text = std::move(text);
+    const qsizetype around = std::max<qsizetype>(begin - LongestWord, 0);
+    if (HasLongerWord(QStringView(m_text).sliced(around).first(
+            std::min(m_text.size() - around, begin - around + inserted.size() + LongestWord)))) {
+        WrapWords(false);
+    }
     // The document reports some changes at its end one character too long; then all is read anew.
     if (m_text.size() != document()->characterCount() - 1 + document()->blockCount() - 1) {
         QString raw = document()->toRawText();
@@ -93,7 +115,9 @@ void Txt_Code::SetText(const QString& text) {
     qsizetype tail = Text::CommonSuffix(QStringView(whole).sliced(same), QStringView(m_text).sliced(same));
     if (same > 0 && m_text[same - 1] == u'\r') --same; // whole line breaks only
     if (tail > 0 && m_text[m_text.size() - tail] == u'\n') --tail;
+    const bool words = !HasLongerWord(whole);
     m_writing = true;
+    if (!words) WrapWords(false); // before the layout of the new text, or behind that of the old one
     if (same + tail > m_text.size() / 2 && m_text.size() > 0) {
         // little has changed: what is the same keeps its layout, and the view its place
         if (same + tail < m_text.size() || whole.size() != m_text.size()) {
@@ -114,6 +138,7 @@ void Txt_Code::SetText(const QString& text) {
         m_replacing = false;
         m_measuredBlocks = 0;
     }
+    if (words) WrapWords(true);
     m_text = whole;
     m_startInsideBreak = m_endInsideBreak = false;
     m_writing = false;
@@ -213,6 +238,14 @@ void Txt_Code::SetSelText(const QString& text) {
 
 // --- visual lines
 // -----------------------------------------------------------------------------------------------
+
+// Whether lines end behind words or, in a text with a word beyond all measure, anywhere.
+void Txt_Code::WrapWords(bool words) {
+    const auto mode = words ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::WrapAnywhere;
+    if (wordWrapMode() == mode) return;
+    setWordWrapMode(mode);
+    m_measuredBlocks = 0;
+}
 
 // The widget lays lines out only as they come into sight and counts one line for the others. Those that may
 // wrap or hold a line separator, which is shown as a new line, are laid out here; another line that is surely

@@ -97,6 +97,7 @@ private:
     void FireChange();
     void FireSelChange();
     void MeasureLines(int upToBlock);
+    void WrapWords(bool words);
     void ActOnKey(QKeyEvent& event);
     QPointF PlaceOf(const QPointF& viewportPoint) const;
 
