@@ -216,10 +216,22 @@ void Txt_Code::SetSelLength(qsizetype length) {
 }
 
 void Txt_Code::SetSelText(const QString& text) {
+    if (!WriteSelText(text)) return;
+    FireChange();
+    FireSelChange();
+}
+
+void Txt_Code::SetSelText(const QString& text, qsizetype caret) {
+    if (WriteSelText(text)) FireChange();
+    SetSelStart(caret);
+}
+
+// Returns whether there was anything to write; its events are left to the caller.
+bool Txt_Code::WriteSelText(const QString& text) {
     const QTextCursor selection = textCursor();
     const bool startInside = m_startInsideBreak;
     const bool endInside = m_endInsideBreak;
-    if (text.isEmpty() && SelLength() == 0) return;
+    if (text.isEmpty() && SelLength() == 0) return false;
     const int from = selection.selectionStart();
     const int to = selection.selectionEnd() + (endInside ? 1 : 0);
     QString inserted = Text::WithFullLineBreaks(text);
@@ -232,8 +244,7 @@ void Txt_Code::SetSelText(const QString& text) {
     cursor.setPosition(ToDocument(caret).position);
     setTextCursor(cursor);
     m_writing = false;
-    FireChange();
-    FireSelChange();
+    return true;
 }
 
 // --- visual lines

@@ -22,6 +22,7 @@ public:
     void SetSelLength(qsizetype length) override;
     QString SelText() const override { return m_text.sliced(SelStart(), SelLength()); }
     void SetSelText(const QString& text) override;
+    void SetSelText(const QString& text, qsizetype caret) override;
     bool LoadFile(const QString& path) override;
     void SetFocus() override { setFocus(); }
     void SetEnabled(bool enabled) override { setEnabled(enabled); }
@@ -94,6 +95,7 @@ private:
     void Select(DocumentPlace anchor, DocumentPlace caret);
     void TakeDocumentChange(int position, int removed, int added);
     void ReplaceRange(int from, int to, const QString& text);
+    bool WriteSelText(const QString& text);
     void FireChange();
     void FireSelChange();
     void MeasureLines(int upToBlock);

@@ -62,6 +62,11 @@ private slots:
         QCOMPARE(Text(), u"drei! zwei drei!"_s);
         Driver::Trigger(u"Menu_Edit_Undo"_s);
         QCOMPARE(Text(), u"eins zwei eins"_s);
+        Box().SetText(u"eins\r\nzwei"_s);
+        field->setText(u"s\nz"_s); // as a paste leaves it
+        ExpectEnd();
+        Driver::Click(u"Cmd_Control_2"_s);
+        QCOMPARE(Box().Text(), u"eindrei!wei"_s);
         QTest::keyClick(field, Qt::Key_Escape);
         QVERIFY(!Loaded<Frm_Search>());
     }
