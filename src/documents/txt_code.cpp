@@ -261,8 +261,8 @@ void Txt_Code::WrapWords(bool words) {
 // The widget lays lines out only as they come into sight and counts one line for the others. Those that may
 // wrap or hold a line separator, which is shown as a new line, are laid out here; another line that is surely
 // shorter than the box is not touched.
-void Txt_Code::MeasureLines(int upToBlock) {
-    if (m_measuredBlocks > upToBlock) return;
+bool Txt_Code::MeasureLines(int upToBlock, QDeadlineTimer deadline) {
+    if (m_measuredBlocks > upToBlock) return true;
     const double advance = fontMetrics().horizontalAdvance(u'M');
     const auto fitting =
         static_cast<qsizetype>((viewport()->width() - 2 * document()->documentMargin()) / advance);
@@ -277,9 +277,19 @@ void Txt_Code::MeasureLines(int upToBlock) {
             for (const QChar c : line) columns += c == u'\t' ? tabColumns : c.unicode() < 0x300 ? 1 : 2;
             wraps = columns > fitting;
         }
-        if (wraps) blockBoundingRect(block);
+        if (!wraps) continue;
+        blockBoundingRect(block);
+        if (!deadline.hasExpired()) continue;
+        m_measuredBlocks = block.blockNumber() + 1;
+        return m_measuredBlocks > upToBlock;
     }
     m_measuredBlocks = upToBlock + 1;
+    return true;
+}
+
+bool Txt_Code::CountsLinesTo(qsizetype position, int milliseconds) {
+    const int block = document()->findBlock(ToDocument(position).position).blockNumber();
+    return MeasureLines(block, QDeadlineTimer(milliseconds));
 }
 
 qsizetype Txt_Code::LineFromChar(qsizetype position) {

@@ -3,6 +3,7 @@
 
 #include "documents/code_box.h"
 
+#include <QDeadlineTimer>
 #include <QPlainTextEdit>
 #include <functional>
 
@@ -28,6 +29,9 @@ public:
     void SetEnabled(bool enabled) override { setEnabled(enabled); }
     qsizetype LineFromChar(qsizetype position) override;
     qsizetype LineIndex(qsizetype line) override;
+    // Lays out lines, for so long at the most, until LineFromChar(position) needs no more of it; returns
+    // whether that is so. Each call goes on from where the last one ended.
+    bool CountsLinesTo(qsizetype position, int milliseconds);
 
     // Whether the change under way is an undo or redo of the box's own history.
     bool IsStepping() const { return m_stepping; }
@@ -98,7 +102,8 @@ private:
     bool WriteSelText(const QString& text);
     void FireChange();
     void FireSelChange();
-    void MeasureLines(int upToBlock);
+    // Returns whether it came to the block before the time was over.
+    bool MeasureLines(int upToBlock, QDeadlineTimer deadline = QDeadlineTimer::Forever);
     void WrapWords(bool words);
     void ActOnKey(QKeyEvent& event);
     QPointF PlaceOf(const QPointF& viewportPoint) const;
