@@ -109,7 +109,9 @@ void Txt_Code::ReplaceRange(int from, int to, const QString& text) {
     m_joining = Joining::GoesOn;
 }
 
-void Txt_Code::SetText(const QString& text) {
+void Txt_Code::SetText(const QString& text) { Write(text, History::GoesOn); }
+
+void Txt_Code::Write(const QString& text, History history) {
     const QString whole = Text::WithFullLineBreaks(text);
     qsizetype same = Text::CommonPrefix(whole, m_text);
     qsizetype tail = Text::CommonSuffix(QStringView(whole).sliced(same), QStringView(m_text).sliced(same));
@@ -118,8 +120,9 @@ void Txt_Code::SetText(const QString& text) {
     const bool words = !HasLongerWord(whole);
     m_writing = true;
     if (!words) WrapWords(false); // before the layout of the new text, or behind that of the old one
-    if (same + tail > m_text.size() / 2 && m_text.size() > 0) {
-        // little has changed: what is the same keeps its layout, and the view its place
+    const bool little = same + tail > m_text.size() / 2;
+    if ((little || history == History::GoesOn) && m_text.size() > 0) {
+        // what is the same keeps its layout, and the view its place
         if (same + tail < m_text.size() || whole.size() != m_text.size()) {
             ReplaceRange(ToDocument(same).position, ToDocument(m_text.size() - tail).position,
                          whole.sliced(same, whole.size() - same - tail));
@@ -147,7 +150,7 @@ void Txt_Code::SetText(const QString& text) {
 }
 
 void Txt_Code::BeginDocument(const QString& text) {
-    SetText(text);
+    Write(text, History::Begins);
     document()->clearUndoRedoStacks();
 }
 

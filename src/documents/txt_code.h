@@ -100,6 +100,9 @@ private:
     void TakeDocumentChange(int position, int removed, int added);
     void ReplaceRange(int from, int to, const QString& text);
     bool WriteSelText(const QString& text);
+    // A history that goes on takes the box back to the text before, one that begins does not.
+    enum class History { GoesOn, Begins };
+    void Write(const QString& text, History history);
     void FireChange();
     void FireSelChange();
     // Returns whether it came to the block before the time was over.

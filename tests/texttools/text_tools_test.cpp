@@ -75,6 +75,9 @@ private slots:
         Open("\xE4 \xDF\r\n");
         In(u"Menu_Tools_Uml"_s, u"Frm_UmlCorrection"_s, [](QWidget*) { Driver::Click(u"Cmd_Control_0"_s); });
         QCOMPARE(Text(), u"&auml; &szlig;\r\n"_s);
+        Driver::PressCode(Qt::Key_Z, Qt::ControlModifier); // the box's own history knows of it, too
+        QCOMPARE(Text(), u"ä ß\r\n"_s);
+        Driver::PressCode(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         In(u"Menu_Tools_Uml"_s, u"Frm_UmlCorrection"_s, [](QWidget*) {
             Driver::Click(u"Opt_UmlOptions_1"_s);
             Driver::Click(u"Cmd_Control_0"_s);
