@@ -29,6 +29,9 @@ public:
     // Replaces the selection and leaves the caret behind what was inserted. A caret between CR and LF splits
     // the pair: both halves become full line breaks. Nothing written over nothing is no change.
     virtual void SetSelText(const QString& text) = 0;
+    // The same for a long text: the caret goes to `caret` in the end, and nobody is told of the place
+    // between, for which all lines before it would have to be laid out.
+    virtual void SetSelText(const QString& text, qsizetype caret) = 0;
 
     // Begins a document with a file's text; returns whether it could be read.
     virtual bool LoadFile(const QString& path) = 0;

@@ -314,12 +314,12 @@ void Menu_File_SaveAs() {
     WriteDocument(true);
 }
 
-void SaveBackUp() {
-    if (Global::OpenFailed) return;
+bool SaveBackUp() {
+    if (Global::OpenFailed) return false;
     CodePage::Format format = Global::DocumentFormat;
     const QString text =
         Global::PicturePreview ? PictureToWrite(CurrentText()) : DocumentFile::TrimTail(CurrentText());
-    DocumentFile::Save(Global::CurrentFile + u".bak"_s, text, format);
+    return DocumentFile::Save(Global::CurrentFile + u".bak"_s, text, format);
 }
 
 void Menu_File_Close() {

@@ -40,7 +40,8 @@ void Menu_File_Save_Click();
 void FileSaveWithoutManager();
 void Menu_File_SaveAs();
 void Menu_File_Close();
-void SaveBackUp();
+// Writes the document to its path plus ".bak". Tells nothing of a failure; returns whether it was written.
+bool SaveBackUp();
 
 } // namespace Documents
 

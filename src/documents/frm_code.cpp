@@ -20,6 +20,7 @@
 namespace {
 
 constexpr int ScriptBarHeight = 330; // twips
+constexpr int CountingTime = 50;     // milliseconds in one go
 constexpr int RowPanel = 4;
 constexpr int ColumnPanel = 5;
 
@@ -67,6 +68,9 @@ Frm_Code::Frm_Code()
                              static_cast<QWidget*>(Cmb_Variables)}) {
         TakeIntoKeyPreview(control);
     }
+    m_counting.setSingleShot(true);
+    m_counting.setInterval(0);
+    connect(&m_counting, &QTimer::timeout, this, &Frm_Code::GetCursorPos);
     SetPlace(0, 0, SavedWidth, SavedHeight);
 }
 
@@ -90,6 +94,7 @@ void Frm_Code::OnLoad() {
 
 void Frm_Code::OnUnload() {
     Global::CodeWindowOpen = false;
+    m_counting.stop();
     RememberTools();
     Neighbours::SetStatusPanel(RowPanel, {});
     Neighbours::SetStatusPanel(ColumnPanel, {});
@@ -168,6 +173,15 @@ bool Frm_Code::eventFilter(QObject* watched, QEvent* event) {
 
 void Frm_Code::GetCursorPos() {
     const qsizetype caret = TextBox->SelStart();
+    // Behind a jump across a long page the lines before the caret are counted piece by piece, with room for
+    // keys.
+    if (!TextBox->CountsLinesTo(caret, CountingTime)) {
+        Neighbours::SetStatusPanel(RowPanel, u"Ze ..."_s);
+        Neighbours::SetStatusPanel(ColumnPanel, u"Sp ..."_s);
+        m_counting.start();
+        return;
+    }
+    m_counting.stop();
     const qsizetype line = TextBox->LineFromChar(caret) + 1;
     const qsizetype start = TextBox->LineIndex(line - 1);
     Neighbours::SetStatusPanel(RowPanel, u"Ze "_s + QString::number(line));

@@ -5,6 +5,7 @@
 #include "documents/txt_code.h"
 #include "platform/mdi_child.h"
 
+#include <QTimer>
 #include <cstdint>
 
 class QLabel;
@@ -69,6 +70,7 @@ private:
     void Code_KeyDown(int key, int shift);
     void Code_MouseDown(int button, int shift, double x, double y);
 
+    QTimer m_counting; // goes on with GetCursorPos()
     int m_codeTop = 0;
     int SavedLeft = 0;
     int SavedTop = 0;

@@ -19,6 +19,10 @@ public:
     void SetSelLength(qsizetype length) override;
     QString SelText() const override { return m_text.sliced(m_start, m_length); }
     void SetSelText(const QString& text) override;
+    void SetSelText(const QString& text, qsizetype caret) override {
+        SetSelText(text);
+        SetSelStart(caret);
+    }
     bool LoadFile(const QString& path) override;
     void SetFocus() override {}
     void SetEnabled(bool enabled) override { isEnabled = enabled; }

@@ -36,13 +36,14 @@ protected:
     // window nothing happens.
     void Wrap(const QString& before, const QString& after); // around the selection
     void Insert(const QString& text);                       // in place of the selection
+    // Gives the keys back to the code, from a window that the desktop is just making the active one, too.
+    void BackToCode();
 
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void BackToCode();
     // Moves the window below the other tools that stand on the very same spot, as all do before they have
     // been moved for the first time.
     void StepAside();

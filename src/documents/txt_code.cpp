@@ -12,6 +12,23 @@
 #include <QTextLayout>
 #include <algorithm>
 
+namespace {
+
+// Characters without a blank between them that are still looked at as one word. Where a line may be broken
+// behind words only, the layout passes over the rest of the word for each line anew.
+constexpr qsizetype LongestWord = 10'000;
+
+bool HasLongerWord(QStringView text) {
+    qsizetype length = 0;
+    for (const QChar c : text) {
+        length = c == u' ' || c == u'\t' || c == u'\n' ? 0 : length + 1;
+        if (length > LongestWord) return true;
+    }
+    return false;
+}
+
+} // namespace
+
 Txt_Code::Txt_Code(QWidget* parent) : QPlainTextEdit(parent) {
     setObjectName(u"Txt_Code"_s);
     setAccessibleName(u"Code"_s);
@@ -21,7 +38,7 @@ Txt_Code::Txt_Code(QWidget* parent) : QPlainTextEdit(parent) {
     font.setPointSize(10);
     setFont(font);
     setTabStopDistance(8 * fontMetrics().horizontalAdvance(u' '));
-    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    WrapWords(true);
     setFrameShape(QFrame::NoFrame);
     viewport()->setMouseTracking(true);
     connect(document(), &QTextDocument::contentsChange, this, &Txt_Code::TakeDocumentChange);
@@ -53,6 +70,11 @@ void Txt_Code::TakeDocumentChange(int position, int removed, int added) {
     text.reserve(m_text.size() - (end - begin) + inserted.size());
     text.append(QStringView(m_text).first(begin)).append(inserted).append(QStringView(m_text).sliced(end));
     m_text = std::move(text);
+    const qsizetype around = std::max<qsizetype>(begin - LongestWord, 0);
+    if (HasLongerWord(QStringView(m_text).sliced(around).first(
+            std::min(m_text.size() - around, begin - around + inserted.size() + LongestWord)))) {
+        WrapWords(false);
+    }
     // The document reports some changes at its end one character too long; then all is read anew.
     if (m_text.size() != document()->characterCount() - 1 + document()->blockCount() - 1) {
         QString raw = document()->toRawText();
@@ -87,15 +109,20 @@ void Txt_Code::ReplaceRange(int from, int to, const QString& text) {
     m_joining = Joining::GoesOn;
 }
 
-void Txt_Code::SetText(const QString& text) {
+void Txt_Code::SetText(const QString& text) { Write(text, History::GoesOn); }
+
+void Txt_Code::Write(const QString& text, History history) {
     const QString whole = Text::WithFullLineBreaks(text);
     qsizetype same = Text::CommonPrefix(whole, m_text);
     qsizetype tail = Text::CommonSuffix(QStringView(whole).sliced(same), QStringView(m_text).sliced(same));
     if (same > 0 && m_text[same - 1] == u'\r') --same; // whole line breaks only
     if (tail > 0 && m_text[m_text.size() - tail] == u'\n') --tail;
+    const bool words = !HasLongerWord(whole);
     m_writing = true;
-    if (same + tail > m_text.size() / 2 && m_text.size() > 0) {
-        // little has changed: what is the same keeps its layout, and the view its place
+    if (!words) WrapWords(false); // before the layout of the new text, or behind that of the old one
+    const bool little = same + tail > m_text.size() / 2;
+    if ((little || history == History::GoesOn) && m_text.size() > 0) {
+        // what is the same keeps its layout, and the view its place
         if (same + tail < m_text.size() || whole.size() != m_text.size()) {
             ReplaceRange(ToDocument(same).position, ToDocument(m_text.size() - tail).position,
                          whole.sliced(same, whole.size() - same - tail));
@@ -114,6 +141,7 @@ void Txt_Code::SetText(const QString& text) {
         m_replacing = false;
         m_measuredBlocks = 0;
     }
+    if (words) WrapWords(true);
     m_text = whole;
     m_startInsideBreak = m_endInsideBreak = false;
     m_writing = false;
@@ -122,7 +150,7 @@ void Txt_Code::SetText(const QString& text) {
 }
 
 void Txt_Code::BeginDocument(const QString& text) {
-    SetText(text);
+    Write(text, History::Begins);
     document()->clearUndoRedoStacks();
 }
 
@@ -191,10 +219,22 @@ void Txt_Code::SetSelLength(qsizetype length) {
 }
 
 void Txt_Code::SetSelText(const QString& text) {
+    if (!WriteSelText(text)) return;
+    FireChange();
+    FireSelChange();
+}
+
+void Txt_Code::SetSelText(const QString& text, qsizetype caret) {
+    if (WriteSelText(text)) FireChange();
+    SetSelStart(caret);
+}
+
+// Returns whether there was anything to write; its events are left to the caller.
+bool Txt_Code::WriteSelText(const QString& text) {
     const QTextCursor selection = textCursor();
     const bool startInside = m_startInsideBreak;
     const bool endInside = m_endInsideBreak;
-    if (text.isEmpty() && SelLength() == 0) return;
+    if (text.isEmpty() && SelLength() == 0) return false;
     const int from = selection.selectionStart();
     const int to = selection.selectionEnd() + (endInside ? 1 : 0);
     QString inserted = Text::WithFullLineBreaks(text);
@@ -207,18 +247,25 @@ void Txt_Code::SetSelText(const QString& text) {
     cursor.setPosition(ToDocument(caret).position);
     setTextCursor(cursor);
     m_writing = false;
-    FireChange();
-    FireSelChange();
+    return true;
 }
 
 // --- visual lines
 // -----------------------------------------------------------------------------------------------
 
+// Whether lines end behind words or, in a text with a word beyond all measure, anywhere.
+void Txt_Code::WrapWords(bool words) {
+    const auto mode = words ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::WrapAnywhere;
+    if (wordWrapMode() == mode) return;
+    setWordWrapMode(mode);
+    m_measuredBlocks = 0;
+}
+
 // The widget lays lines out only as they come into sight and counts one line for the others. Those that may
 // wrap or hold a line separator, which is shown as a new line, are laid out here; another line that is surely
 // shorter than the box is not touched.
-void Txt_Code::MeasureLines(int upToBlock) {
-    if (m_measuredBlocks > upToBlock) return;
+bool Txt_Code::MeasureLines(int upToBlock, QDeadlineTimer deadline) {
+    if (m_measuredBlocks > upToBlock) return true;
     const double advance = fontMetrics().horizontalAdvance(u'M');
     const auto fitting =
         static_cast<qsizetype>((viewport()->width() - 2 * document()->documentMargin()) / advance);
@@ -233,9 +280,19 @@ void Txt_Code::MeasureLines(int upToBlock) {
             for (const QChar c : line) columns += c == u'\t' ? tabColumns : c.unicode() < 0x300 ? 1 : 2;
             wraps = columns > fitting;
         }
-        if (wraps) blockBoundingRect(block);
+        if (!wraps) continue;
+        blockBoundingRect(block);
+        if (!deadline.hasExpired()) continue;
+        m_measuredBlocks = block.blockNumber() + 1;
+        return m_measuredBlocks > upToBlock;
     }
     m_measuredBlocks = upToBlock + 1;
+    return true;
+}
+
+bool Txt_Code::CountsLinesTo(qsizetype position, int milliseconds) {
+    const int block = document()->findBlock(ToDocument(position).position).blockNumber();
+    return MeasureLines(block, QDeadlineTimer(milliseconds));
 }
 
 qsizetype Txt_Code::LineFromChar(qsizetype position) {

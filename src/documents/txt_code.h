@@ -3,6 +3,7 @@
 
 #include "documents/code_box.h"
 
+#include <QDeadlineTimer>
 #include <QPlainTextEdit>
 #include <functional>
 
@@ -22,11 +23,15 @@ public:
     void SetSelLength(qsizetype length) override;
     QString SelText() const override { return m_text.sliced(SelStart(), SelLength()); }
     void SetSelText(const QString& text) override;
+    void SetSelText(const QString& text, qsizetype caret) override;
     bool LoadFile(const QString& path) override;
     void SetFocus() override { setFocus(); }
     void SetEnabled(bool enabled) override { setEnabled(enabled); }
     qsizetype LineFromChar(qsizetype position) override;
     qsizetype LineIndex(qsizetype line) override;
+    // Lays out lines, for so long at the most, until LineFromChar(position) needs no more of it; returns
+    // whether that is so. Each call goes on from where the last one ended.
+    bool CountsLinesTo(qsizetype position, int milliseconds);
 
     // Whether the change under way is an undo or redo of the box's own history.
     bool IsStepping() const { return m_stepping; }
@@ -94,9 +99,15 @@ private:
     void Select(DocumentPlace anchor, DocumentPlace caret);
     void TakeDocumentChange(int position, int removed, int added);
     void ReplaceRange(int from, int to, const QString& text);
+    bool WriteSelText(const QString& text);
+    // A history that goes on takes the box back to the text before, one that begins does not.
+    enum class History { GoesOn, Begins };
+    void Write(const QString& text, History history);
     void FireChange();
     void FireSelChange();
-    void MeasureLines(int upToBlock);
+    // Returns whether it came to the block before the time was over.
+    bool MeasureLines(int upToBlock, QDeadlineTimer deadline = QDeadlineTimer::Forever);
+    void WrapWords(bool words);
     void ActOnKey(QKeyEvent& event);
     QPointF PlaceOf(const QPointF& viewportPoint) const;
 

@@ -91,6 +91,7 @@ void ChangeTags(QString (*change)(QString&)) {
         QString page = box.Text();
         const qsizetype caret = box.SelStart();
         change(page); // takes the undo copy
+        if (page == box.Text()) return;
         box.SetText(page);
         box.SetSelStart(caret);
     });

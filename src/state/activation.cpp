@@ -39,10 +39,11 @@ private:
 void SetCodeCommands(Collector& set, bool open) {
     set.Set(open, {"Menu_Edit_Undo", "Menu_Edit_Redo"});
     set.SetButtons(open, {7, 8, 10, 11, 15, 16, 17, 18, 19, 21, 22, 23, 27, 28, 29, 30, 31, 32});
-    set.Set(open, {"Menu_File_Import", "Menu_Edit_Cut", "Menu_Edit_Copy", "Menu_Edit_Paste",
-                   "Menu_Edit_Delete", "Menu_Edit_Search", "Menu_Edit_SelectAll", "Menu_Edit_EditString",
-                   "Menu_Edit_ChangeDigitSystem", "Menu_Edit_CalculateText", "Menu_View_Zoom",
-                   "Menu_Debug_Start", "Menu_Tools_Uml", "Menu_Tools_DeleteComment", "Menu_Tools_MadCode"});
+    set.Set(open,
+            {"Menu_File_Import", "Menu_Edit_Cut", "Menu_Edit_Copy", "Menu_Edit_Paste", "Menu_Edit_Delete",
+             "Menu_Edit_Search", "Menu_Edit_SelectAll", "Menu_Edit_EditString", "Menu_Edit_ChangeDigitSystem",
+             "Menu_Edit_CalculateText", "Menu_View_Zoom", "Menu_Debug_Start", "Menu_Tools_Uml",
+             "Menu_Tools_DeleteComment", "Menu_Tools_MadCode", "Menu_Tools_SpellingCheck"});
     set.SetBranch(open, u"Menu_Insert");
     set.Set(open, {"Menu_Tools_LCaseTags", "Menu_Tools_UCaseTags", "Menu_View_ColorStandard",
                    "Menu_View_ColorKCC", "Menu_View_TagTools", "Menu_View_Events", "Menu_View_Character",

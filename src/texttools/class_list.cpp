@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "texttools/class_list.h"
 
+#include "documents/link_list.h"
 #include "documents/paths.h"
 #include "documents/text_buffer.h"
 #include "platform/files.h"
@@ -27,30 +28,45 @@ bool BeginsName(QStringView name) {
     return name.front() != u'-' || !isDigit(name[1]);
 }
 
+bool IsHexDigit(QChar c) {
+    return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
+}
+
+// Length of the escape at the start of `text`, 0 when none stands there. The blank that parts a number from
+// what follows in the name belongs to it.
+qsizetype EscapeLength(QStringView text) {
+    constexpr qsizetype LongestNumber = 6;
+    if (text.size() < 2 || text[0] != u'\\' || text[1] == u'\r' || text[1] == u'\n') return 0;
+    qsizetype end = 1;
+    while (end < text.size() && end <= LongestNumber && IsHexDigit(text[end])) ++end;
+    if (end == 1) return 2;
+    const bool goesOn =
+        end + 1 < text.size() && text[end] == u' ' && (StandsInName(text[end + 1]) || text[end + 1] == u'\\');
+    return goesOn ? end + 1 : end;
+}
+
 // Length of the name at the start of `text` (CSS Syntax Level 3, 4.3.11), escapes included.
 qsizetype NameLength(QStringView text) {
     qsizetype end = 0;
     while (end < text.size()) {
-        if (StandsInName(text[end])) {
-            ++end;
-        } else if (text[end] == u'\\' && end + 1 < text.size() && text[end + 1] != u'\r' &&
-                   text[end + 1] != u'\n') {
-            end += 2;
-        } else {
-            break;
-        }
+        const qsizetype step = StandsInName(text[end]) ? 1 : EscapeLength(text.sliced(end));
+        if (step == 0) break;
+        end += step;
     }
     return end;
 }
 
-// `block` with its comments overwritten by blanks.
-QString WithoutComments(QString block) {
+// The rules of `block`: without its comments, and without the marks that hide them from old browsers.
+QString RulesOf(QString block) {
     qsizetype comment = Text::Find(block, u"/*");
     while (comment > 0) {
         const qsizetype behind = Text::Find(block, u"*/", comment + 2);
         if (behind == 0) break;
         std::fill_n(block.data() + comment - 1, behind + 2 - comment, QChar(u' '));
         comment = Text::Find(block, u"/*", behind + 2);
+    }
+    for (const QStringView mark : {u"<!--", u"-->", u"<![CDATA[", u"]]>"}) {
+        block.replace(mark.toString(), u" "_s);
     }
     return block;
 }
@@ -69,7 +85,7 @@ bool HoldsRules(QStringView prelude) {
 class BlockScan {
 public:
     explicit BlockScan(const QString& block)
-        : m_text(WithoutComments(block)), m_lastClosing(m_text.lastIndexOf(u'}')) {}
+        : m_text(RulesOf(block)), m_lastClosing(m_text.lastIndexOf(u'}')) {}
 
     QStringList Run() {
         while (m_at < m_text.size()) Step();
@@ -79,22 +95,21 @@ public:
 private:
     void Step() {
         const QChar c = m_text[m_at];
-        if (c == u'{') {
+        if (c == u'"' || c == u'\'') return SkipString(c);
+        if (c == u'\\') {
+            ++m_at; // an escaped marker is part of a name
+        } else if (c == u'{') {
             // Braces that are never closed count as none, so that the end of an unfinished sheet is seen.
             m_inDeclarations = m_at < m_lastClosing && !HoldsRules(Prelude());
             m_preludeStart = m_at + 1;
         } else if (c == u'}' || c == u';') {
             if (c == u'}') m_inDeclarations = false;
             m_preludeStart = m_at + 1;
-        } else if (!m_inDeclarations && (c == u'"' || c == u'\'')) {
-            SkipBehind(c, m_at + 1);
-            return;
-        } else if (!m_inDeclarations && c == u'(' && Prelude().endsWith(u"url", Qt::CaseInsensitive)) {
-            SkipBehind(u')', m_at + 1);
-            return;
-        } else if (!m_inDeclarations && c == u'\\') {
-            ++m_at; // an escaped marker is part of a name
-        } else if (!m_inDeclarations && (c == u'.' || c == u'#')) {
+        } else if (c == u'(' && !m_inAddress && Prelude().endsWith(u"url", Qt::CaseInsensitive)) {
+            EnterAddress();
+        } else if (c == u')') {
+            m_inAddress = false;
+        } else if (!m_inDeclarations && (c == u'#' || (c == u'.' && !m_inAddress))) {
             const QStringView rest = QStringView(m_text).sliced(m_at + 1);
             const QStringView name = rest.first(NameLength(rest));
             if (BeginsName(name)) Add(c + name.toString());
@@ -105,13 +120,26 @@ private:
 
     QStringView Prelude() const { return QStringView(m_text).sliced(m_preludeStart, m_at - m_preludeStart); }
 
-    // A string ends with its line at the latest; an address that is not closed ends nowhere.
-    void SkipBehind(QChar end, qsizetype from) {
-        for (m_at = from; m_at < m_text.size(); ++m_at) {
-            if (m_text[m_at] == end) break;
-            if (end != u')' && (m_text[m_at] == u'\n' || m_text[m_at] == u'\r')) break;
+    // A string ends with its line at the latest, unless a backslash joins the next one to it.
+    void SkipString(QChar quote) {
+        for (++m_at; m_at < m_text.size(); ++m_at) {
+            const QChar c = m_text[m_at];
+            if (c == quote || c == u'\r' || c == u'\n') break;
+            if (c == u'\\') m_at += QStringView(m_text).sliced(m_at + 1).startsWith(Text::LineBreak) ? 2 : 1;
         }
         ++m_at;
+    }
+
+    // One that is closed before the next brace holds nothing. Without that the rules go on, but until a ")"
+    // comes each dot is one of the address.
+    void EnterAddress() {
+        m_inAddress = true;
+        qsizetype end = m_at + 1;
+        const auto isStop = [](QChar c) { return QStringView(u"){}\"'").contains(c); };
+        while (end < m_text.size() && !isStop(m_text[end])) ++end;
+        if (end == m_text.size() || m_text[end] != u')') return;
+        m_inAddress = false;
+        m_at = end;
     }
 
     void Add(const QString& name) {
@@ -125,6 +153,7 @@ private:
     qsizetype m_at = 0;
     qsizetype m_preludeStart = 0;
     bool m_inDeclarations = false;
+    bool m_inAddress = false; // in a url( that is still open
     QSet<QString> m_known;
     QStringList m_names;
 };
@@ -136,9 +165,17 @@ class FileScan {
 public:
     explicit FileScan(Found& found) : m_found(found) {}
 
+    void Run(const QString& path) {
+        m_pending = {path};
+        while (!m_pending.isEmpty()) Scan(m_pending.takeLast());
+    }
+
+private:
+    // A file has many paths; it is known by its place on the disk.
     void Scan(const QString& path) {
-        if (m_read.contains(path)) return;
-        m_read.insert(path);
+        const QString place = Files::Canonical(path);
+        if (place.isEmpty() || m_read.contains(place)) return;
+        m_read.insert(place);
         TextBuffer file;
         file.LoadFile(path);
         const QString text = file.Text();
@@ -147,15 +184,17 @@ public:
         } else {
             ScanStyleBlocks(text);
         }
-        FollowLinks(text, Global::ParentPath(path) + u'\\');
+        QStringList sheets = LinkedSheets(text, Global::ParentPath(path) + u'\\');
+        std::ranges::reverse(sheets); // the first one comes next, with all that it links
+        m_pending += sheets;
     }
 
-private:
     void ScanStyleBlocks(const QString& page) {
         const QString upper = Text::UpperCase(page);
+        Text::Finder tagEnd(upper, u">");
         qsizetype tag = Text::Find(upper, u"<STYLE");
         while (tag > 0) {
-            const qsizetype begin = Text::Find(upper, u">", tag);
+            const qsizetype begin = tagEnd.From(tag);
             const qsizetype end = Text::Find(upper, u"</STYLE", tag + 1);
             if (begin == 0 || end == 0) return;
             if (begin < end) Take(InBlock(page.sliced(begin, end - 1 - begin)));
@@ -163,37 +202,16 @@ private:
         }
     }
 
-    // Every address in url(), src and href, whatever tag or rule it stands in.
-    void FollowLinks(const QString& text, const QString& folder) {
-        const QString lower = Text::LowerCase(text);
-        struct Kind {
-            QStringView opening;
-            QStringView closing;
-            Text::Finder finder;
-        };
-        Kind kinds[] = {{u"url(", u")", {lower, u"url("}},
-                        {u"src=\"", u"\"", {lower, u"src=\""}},
-                        {u"href=\"", u"\"", {lower, u"href=\""}}};
-        qsizetype from = 1;
-        while (true) {
-            const Kind* nearest = nullptr;
-            qsizetype at = 0;
-            for (Kind& kind : kinds) {
-                const qsizetype hit = kind.finder.From(from);
-                if (hit == 0 || (nearest && hit > at)) continue;
-                nearest = &kind;
-                at = hit;
-            }
-            if (!nearest) return;
-            const qsizetype begin = at + nearest->opening.size();
-            const qsizetype end = Text::Find(lower, nearest->closing, begin);
-            if (end == 0) {
-                m_found.openLink = true;
-                return;
-            }
-            Follow(Unquoted(Text::Middle(text, begin, end - begin)), folder);
-            from = end;
+    // The sheets among all addresses in url(), src and href, whatever tag or rule they stand in.
+    QStringList LinkedSheets(const QString& text, const QString& folder) {
+        const LinkList list = FindLinks(text, {LinkMarker::Href, LinkMarker::Src, LinkMarker::Url});
+        if (list.cutShort) m_found.openLink = true;
+        QStringList sheets;
+        for (const QString& link : list.links) {
+            const QString sheet = SheetOf(Unquoted(link), folder);
+            if (!sheet.isEmpty()) sheets.append(sheet);
         }
+        return sheets;
     }
 
     static QString Unquoted(QStringView link) {
@@ -202,9 +220,16 @@ private:
         return (quoted && link.back() == link.front() ? link.sliced(1, link.size() - 2) : link).toString();
     }
 
-    void Follow(const QString& link, const QString& folder) {
-        const auto path = Global::PathOfLink(link, folder);
-        if (path && Global::ExtensionOf(*path) == u"css") Scan(*path);
+    // The style sheet that a link leads to; empty when it leads to none. A "?" or "#" ends the name of a file
+    // that is not there with it.
+    static QString SheetOf(const QString& link, const QString& folder) {
+        const auto isEnd = [](QChar c) { return c == u'?' || c == u'#'; };
+        const auto end = std::ranges::find_if(link, isEnd);
+        for (const QString& name : {link, link.first(end - link.begin())}) {
+            const auto path = Global::PathOfLink(name, folder);
+            if (path && Global::ExtensionOf(*path) == u"css" && Files::CanRead(*path)) return *path;
+        }
+        return {};
     }
 
     void Take(const QStringList& names) {
@@ -216,6 +241,7 @@ private:
     }
 
     Found& m_found;
+    QStringList m_pending; // the next one last
     QSet<QString> m_read;
     QSet<QString> m_known;
 };
@@ -226,7 +252,7 @@ QStringList InBlock(const QString& block) { return BlockScan(block).Run(); }
 
 Found InFile(const QString& path) {
     Found found;
-    if (!path.isEmpty()) FileScan(found).Scan(path);
+    if (!path.isEmpty()) FileScan(found).Run(path);
     return found;
 }
 

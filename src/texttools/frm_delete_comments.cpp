@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "texttools/frm_delete_comments.h"
 
-#include "documents/document_commands.h"
 #include "documents/undo.h"
 #include "platform/dialogs.h"
 #include "platform/literals.h"
 #include "state/global.h"
 #include "texttools/code_packing.h"
+#include "texttools/text_tool_commands.h"
 
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -33,8 +33,8 @@ Frm_DeleteComments::Frm_DeleteComments()
 
 void Frm_DeleteComments::Delete() {
     if (Opt_BackUp_0->isChecked()) {
-        Documents::SaveBackUp();
-    } else if (Dialogs::MsgBox({u"Kommentare löschen"_s,
+        if (!TextTools::MakeBackUp(windowTitle())) return;
+    } else if (Dialogs::MsgBox({windowTitle(),
                                 u"Sind Sie sicher, dass Sie keine Sicherheitskopie machen wollen?"_s,
                                 Dialogs::Icon::Question, Dialogs::Buttons::YesNo}) != Dialogs::Answer::Yes) {
         return;

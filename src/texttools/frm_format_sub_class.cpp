@@ -3,7 +3,6 @@
 
 #include "platform/dialogs.h"
 #include "platform/literals.h"
-#include "state/neighbours.h"
 #include "texttools/class_list.h"
 
 #include <QKeyEvent>
@@ -61,7 +60,7 @@ bool Frm_FormatSubClass::eventFilter(QObject* watched, QEvent* event) {
         const bool inside = Lst_SubClass->viewport()->rect().contains(mouse->position().toPoint());
         const bool used = ToolWindow::eventFilter(watched, event);
         if (mouse->button() == Qt::LeftButton && inside) InsertEntry();
-        Neighbours::FocusCode();
+        BackToCode();
         return used;
     }
     if (event->type() == QEvent::KeyPress && watched == Lst_SubClass) {

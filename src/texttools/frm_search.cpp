@@ -8,6 +8,7 @@
 #include "platform/literals.h"
 #include "platform/mdi_child.h"
 #include "platform/screen_place.h"
+#include "platform/text.h"
 #include "state/global.h"
 #include "state/neighbours.h"
 
@@ -21,6 +22,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollBar>
 
 namespace {
 
@@ -31,6 +33,18 @@ constexpr int Gap = 24; // pixels between a hit and the window that makes way fo
 std::array<QStringList, 2> keptTexts;
 
 QWidget* MainWindow() { return MdiChild::Host() ? MdiChild::Host()->window() : nullptr; }
+
+// The lines of the selection that are in sight, in the code box's viewport and as wide as it.
+QRect SelectedLines(const Txt_Code& box) {
+    QTextCursor start = box.textCursor();
+    start.setPosition(start.selectionStart());
+    const QRect lines = box.cursorRect(start).united(box.cursorRect()).intersected(box.viewport()->rect());
+    return {0, lines.top(), box.viewport()->width(), lines.height()};
+}
+
+QRect OnScreen(const Txt_Code& box, const QRect& place) {
+    return {box.viewport()->mapToGlobal(place.topLeft()), place.size()};
+}
 
 template<class Button> Button* Named(const QString& name, const QString& caption) {
     auto* button = new Button(caption);
@@ -100,6 +114,7 @@ QComboBox* Frm_Search::AddField(Field index, const QString& label) {
     field->setEditable(true);
     field->setCompleter(nullptr);
     field->setInsertPolicy(QComboBox::NoInsert);
+    field->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // however long the texts
     field->addItems(keptTexts[index]);
     field->clearEditText();
     field->lineEdit()->setObjectName(u"Txt_Search_"_s + QString::number(index));
@@ -125,7 +140,12 @@ void Frm_Search::OnUnload() {
 void Frm_Search::Present() {
     const CodeBox* box = Neighbours::TheCodeBox();
     const QString selected = box ? box->SelText() : QString();
-    if (!selected.isEmpty() && !selected.contains(u'\n')) m_fields[SearchText]->setEditText(selected);
+    // a hit that is selected still is no new text to search for
+    const QString present = m_fields[SearchText]->currentText();
+    const bool same =
+        Chk_Option_1->isChecked() ? selected == present : Text::EqualIgnoringCase(selected, present);
+    if (!selected.isEmpty() && !same && !selected.contains(u'\n'))
+        m_fields[SearchText]->setEditText(selected);
     show();
     StepAside();
     raise();
@@ -169,8 +189,9 @@ void Frm_Search::Chk_All_Click() {
 }
 
 SearchRun::Wanted Frm_Search::Wanted() const {
-    return {m_fields[SearchText]->currentText(), m_fields[Replacement]->currentText(),
-            Chk_Option_1->isChecked()};
+    // line breaks that have been pasted stand as the clipboard has them
+    return {Text::WithFullLineBreaks(m_fields[SearchText]->currentText()),
+            Text::WithFullLineBreaks(m_fields[Replacement]->currentText()), Chk_Option_1->isChecked()};
 }
 
 SearchRun::Range Frm_Search::Range() const {
@@ -200,7 +221,8 @@ void Frm_Search::ReplaceHits() {
     Remember(Replacement);
     Undo::PushUndo();
     if (all) {
-        m_run.ReplaceAll(*box, wanted, Range());
+        if (m_run.ReplaceAll(*box, wanted, Range()) > 0) Neighbours::ShowCodeWindow();
+        raise();
         return ShowHit(false);
     }
     if (!m_run.HasBegun()) m_run.Begin(*box, Range());
@@ -217,23 +239,36 @@ void Frm_Search::ShowHit(bool found) {
     StepAside();
 }
 
-// Below the selection, or above it where there is no room.
+// Below the selection, or above it where there is no room. On a screen that has no room for either, the code
+// is scrolled until there is.
 void Frm_Search::StepAside() {
     if (!Loaded<Frm_Code>()) return;
     Txt_Code& box = *Shared<Frm_Code>().TextBox;
     box.ensureCursorVisible();
-    QTextCursor start = box.textCursor();
-    start.setPosition(start.selectionStart());
-    const QRect lines = box.cursorRect(start).united(box.cursorRect()).intersected(box.viewport()->rect());
-    const QRect hit(box.viewport()->mapToGlobal(lines.topLeft()),
-                    box.viewport()->mapToGlobal(lines.bottomRight()));
-    const QRect hitLine(box.viewport()->mapToGlobal(QPoint(0, lines.top())),
-                        QSize(box.viewport()->width(), hit.height()));
-    QRect place = frameGeometry();
-    if (!place.intersects(hitLine)) return;
-    place.moveTop(hitLine.bottom() + Gap);
-    if (!screen()->availableGeometry().contains(place)) place.moveBottom(hitLine.top() - Gap);
-    move(FittedToScreen(place).topLeft());
+    QRect hit = SelectedLines(box);
+    if (!frameGeometry().intersects(OnScreen(box, hit)) || MoveClearOf(OnScreen(box, hit))) return;
+    const int line = box.fontMetrics().lineSpacing();
+    QScrollBar& scroll = *box.verticalScrollBar();
+    scroll.setValue(scroll.value() + hit.top() / line);
+    if (MoveClearOf(OnScreen(box, SelectedLines(box)))) return;
+    hit = SelectedLines(box);
+    scroll.setValue(scroll.value() - (box.viewport()->height() - hit.bottom()) / line);
+    MoveClearOf(OnScreen(box, SelectedLines(box)));
+}
+
+// Returns whether there is room below or above the place.
+bool Frm_Search::MoveClearOf(const QRect& place) {
+    const QRect available = screen()->availableGeometry();
+    const auto moveTo = [&](int top) {
+        if (top < available.top() || top + frameGeometry().height() > available.bottom() + 1) return false;
+        QRect moved = frameGeometry();
+        moved.moveTop(top);
+        move(FittedToScreen(moved).topLeft());
+        return true;
+    };
+    const int height = frameGeometry().height();
+    return moveTo(place.bottom() + 1 + Gap) || moveTo(place.top() - Gap - height) ||
+           moveTo(place.bottom() + 1) || moveTo(place.top() - height);
 }
 
 void Frm_Search::Remember(Field field) {

@@ -9,7 +9,6 @@
 
 class QCheckBox;
 class QComboBox;
-class QLabel;
 class QPushButton;
 class QRadioButton;
 
@@ -45,13 +44,13 @@ private:
     void ReplaceHits();
     void ShowHit(bool found);
     void StepAside();
+    bool MoveClearOf(const QRect& place);
     void Remember(Field field);
     SearchRun::Wanted Wanted() const;
     SearchRun::Range Range() const;
 
     SearchRun m_run;
     std::array<QComboBox*, FieldCount> m_fields;
-    QLabel* m_replacementLabel = nullptr;
     QRadioButton* const Opt_Option_0;
     QRadioButton* const Opt_Option_1;
     QCheckBox* const Chk_Option_0;

@@ -15,6 +15,10 @@
 #include <QPointer>
 #include <QPushButton>
 
+namespace {
+QString Words(qsizetype count) { return count == 1 ? u"1 Wort"_s : QString::number(count) + u" Wörter"_s; }
+} // namespace
+
 Frm_SpellingCheck::Frm_SpellingCheck()
     : Txt_WordsFile(new QLineEdit(u"german.wds"_s)), Lbl_WordCount(new QLabel(u"0 Wörter"_s)),
       Lst_Words(new QListWidget) {
@@ -68,7 +72,8 @@ void Frm_SpellingCheck::reject() {
 
 void Frm_SpellingCheck::Check() {
     const CodeBox* box = Neighbours::TheCodeBox();
-    if (!box) return;
+    if (!box || m_checking) return;
+    m_checking = true;
     Lst_Words->clear();
     const QPointer<Frm_SpellingCheck> alive(this); // letting events run may end this window
     const Spelling::Plain plain = Spelling::WithoutTags(box->Text());
@@ -82,23 +87,28 @@ void Frm_SpellingCheck::Check() {
             return alive && !m_left;
         });
     }
-    if (!alive || m_left) return;
+    if (!alive) return;
+    m_checking = false;
+    if (m_left) return;
     Lst_Words->addItems(unknown);
     if (!plain.whole) {
         return Dialogs::Tell(u"Fehler"_s, u"Ein Tag hat kein Ende. Es wurde nur der Text vor ihm geprüft."_s,
                              Dialogs::Icon::Critical);
     }
-    Dialogs::Tell(u"Fertig"_s, QString::number(unknown.size()) + u" Wörter gefunden"_s, Dialogs::Icon::None);
+    Dialogs::Tell(u"Fertig"_s, Words(unknown.size()) + u" gefunden"_s, Dialogs::Icon::None);
 }
 
 void Frm_SpellingCheck::AddAll() {
-    // The words continue the one line of the file.
-    const auto before = Files::ReadProgramText(Files::ProgramFile(Txt_WordsFile->text()));
+    if (m_checking) return;
+    // The words continue the one line of the file. A file that is there but cannot be read stays as it is.
+    const QString file = Files::ProgramFile(Txt_WordsFile->text());
+    const auto before = Files::ReadProgramText(file);
     QString words = before.value_or(QString());
     for (int row = 0; row < Lst_Words->count(); ++row) words += Lst_Words->item(row)->text() + u' ';
-    if (!Files::WriteProgramText(Files::ProgramDirectory() + u'\\' + Txt_WordsFile->text(), words)) {
+    const bool readable = before || Files::Canonical(file).isEmpty();
+    if (!readable ||
+        !Files::WriteProgramText(Files::ProgramDirectory() + u'\\' + Txt_WordsFile->text(), words)) {
         return Dialogs::Tell(u"Fehler"_s, u"Fehler beim Speichern der Datei."_s, Dialogs::Icon::Critical);
     }
-    Dialogs::Tell(u"Fertig"_s, QString::number(Lst_Words->count()) + u" Wörter hinzugefügt"_s,
-                  Dialogs::Icon::None);
+    Dialogs::Tell(u"Fertig"_s, Words(Lst_Words->count()) + u" hinzugefügt"_s, Dialogs::Icon::None);
 }

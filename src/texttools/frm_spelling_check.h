@@ -25,6 +25,7 @@ private:
 
     Spelling::WordList m_list;
     bool m_left = false;
+    bool m_checking = false; // letting events run lets its user press the buttons
     QLineEdit* const Txt_WordsFile;
     QLabel* const Lbl_WordCount;
     QListWidget* const Lst_Words;

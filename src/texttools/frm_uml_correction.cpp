@@ -8,7 +8,6 @@
 #include "state/busy.h"
 #include "texttools/umlaut_correction.h"
 
-#include <QGroupBox>
 #include <QLabel>
 #include <QLocale>
 #include <QRadioButton>

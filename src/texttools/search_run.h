@@ -4,7 +4,8 @@
 #include "documents/code_box.h"
 
 // A search through the code box that goes on from hit to hit: plain text, no patterns. Positions are
-// one-based unless they are said to be offsets.
+// one-based unless they are said to be offsets. The text may change between two steps: the search stays at
+// its characters.
 class SearchRun {
 public:
     struct Wanted {
@@ -33,11 +34,14 @@ public:
 
 private:
     qsizetype Next(const CodeBox& box, const Wanted& wanted);
-    QStringView Haystack(const QString& text, bool matchCase);
+    void FollowChanges(const QString& text);
+    void Take(const QString& text);
+    QStringView Haystack(bool matchCase);
 
     qsizetype m_position = 0;   // where the next search begins; 0 while none has begun
     qsizetype m_rangeStart = 0; // offset
     qsizetype m_rangeEnd = 0;   // the last position at which a hit may begin
-    QString m_text;             // what m_upperText was made of; shared with the box
+    bool m_whole = true;        // the range is the whole text, whatever becomes of it
+    QString m_text;             // as of the last step; shared with the box
     QString m_upperText;
 };

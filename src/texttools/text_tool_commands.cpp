@@ -13,15 +13,17 @@ namespace TextTools {
 
 namespace {
 
+const QString Title = QStringLiteral("Code verschlüsseln");
+
 Dialogs::Answer AskForCopy(const QString& text) {
-    return Dialogs::MsgBox(
-        {u"Code verschlüsseln"_s, text, Dialogs::Icon::Exclamation, Dialogs::Buttons::YesNoCancel});
+    return Dialogs::MsgBox({Title, text, Dialogs::Icon::Exclamation, Dialogs::Buttons::YesNoCancel});
 }
 
-// Whether the document has a file and nothing in it is unsaved.
+// Whether the text was saved and is still the one that is open: a save may refresh the project view, which
+// lets events run.
 bool Save() {
     Documents::Menu_File_Save_Click();
-    return !Global::CurrentFile.isEmpty() && !Global::DocChanged;
+    return Global::SaveSucceeded && Global::CurrentFile == Global::LastFile;
 }
 
 } // namespace
@@ -30,6 +32,15 @@ void WireTextTools() {
     Neighbours::UpdateClassList.AnsweredBy([] {
         if (Loaded<Frm_FormatSubClass>()) Shared<Frm_FormatSubClass>().UpdateClassList();
     });
+}
+
+bool MakeBackUp(const QString& title) {
+    if (Documents::SaveBackUp()) return true;
+    return Dialogs::MsgBox(
+               {title,
+                u"Die Sicherheitskopie konnte nicht geschrieben werden. Möchten Sie trotzdem fortfahren?"_s,
+                Dialogs::Icon::Exclamation, Dialogs::Buttons::YesNo, Dialogs::Answer::No}) ==
+           Dialogs::Answer::Yes;
 }
 
 void Menu_Tools_MadCode() {
@@ -51,7 +62,7 @@ void Menu_Tools_MadCode() {
     const auto answer = AskForCopy(
         u"Sie sollten von der aktuellen Datei ein Backup erstellen, um bei\r\neinem Codierungsfehler "
         "die Daten wiederherstellen zu können.\r\nMöchten Sie das jetzt tun?"_s);
-    if (answer == Dialogs::Answer::Yes) Documents::SaveBackUp();
+    if (answer == Dialogs::Answer::Yes && !MakeBackUp(Title)) return;
     if (answer != Dialogs::Answer::Cancel) CodeAccess::ScrambleCode();
 }
 

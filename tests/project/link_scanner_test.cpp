@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "project/link_scanner.h"
 
-#include "platform/events.h"
 #include "documents/link_list.h"
+#include "platform/events.h"
 #include "support/test.h"
 
 #include <vector>

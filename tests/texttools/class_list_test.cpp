@@ -33,8 +33,12 @@ private slots:
         row(".a{color:#fff", ".a #fff"); // never closed, so no declaration
         row(".1a{}#2{}.-3{}.{}", "");
         row("a[href$=\".pdf\"]{}.x{}", ".x");
+        row(".\\31 23{}.\\31 {}#\\31 p .q{}", ".\\31 23 .\\31 #\\31 p .q");
+        row(".a:before{content:\"}\\\"\"}.b{}", ".a .b");
+        row("<!-- @media print{.a{}} --><![CDATA[ @media all{.b{}} ]]>", ".a .b");
         row("url(.a .b){}", "");
         row("@import url(.a .b", "");
+        row(".a{background:url(x.png}.b{}#c{}d:is(.e).f{}", ".a #c .f"); // dots of the open address
         row("", "");
     }
     void readsABlock() {
@@ -46,10 +50,12 @@ private slots:
         const ProgramFolder folder;
         const QString page = folder.Write(
             u"seite.htm"_s, "<head><style><!-- .a{} --></STYLE><STYLE TYPE=x>#b{}.a{}</style>"
-                            "<link href=\"eins.css\"><img src=\"bild.gif\"><link href=\"fehlt.css\">"
+                            "<link href=\"eins.css?v=2\"><img src=\"bild.gif\"><link href=\"fehlt.css\">"
                             "<a href=\"../../../../../../../../../../zu/hoch.css\"><style>.offen{}");
         folder.Write(u"eins.css"_s, "@import url('zwei.css'); .eins{}");
-        folder.Write(u"zwei.css"_s, "@import url(eins.css); @import url( zwei.css ); .zwei{}");
+        folder.Write(u"zwei.css"_s,
+                     "@import url(unter/../eins.css); @import url( ./zwei.css?v=1.2#x ); .zwei{}");
+        folder.Write(u"unter/x"_s, {});
         folder.Write(u"bild.gif"_s, ".bild{}");
         const ClassList::Found found = ClassList::InFile(page);
         QCOMPARE(found.entries, (QStringList{u".a"_s, u"#b"_s, u".eins"_s, u".zwei"_s}));

@@ -82,6 +82,20 @@ private slots:
         QVERIFY(!SearchRun().FindNext(box, {{}, {}, true}));
     }
 
+    // What is typed or deleted between two steps takes the search with it.
+    void staysAtItsCharacters() {
+        TextBuffer box(u"head a a a"_s);
+        SearchRun run;
+        const SearchRun::Wanted wanted{u"a"_s, {}, true};
+        run.Begin(box, Range::WholeText);
+        QVERIFY(run.FindNext(box, wanted) && run.FindNext(box, wanted) && box.SelStart() == 5);
+        box.SetText(u"a a a"_s); // the hit that follows stands before the old place now
+        QVERIFY(run.FindNext(box, wanted) && box.SelStart() == 2);
+        box.SetText(u"longer than before a a a a"_s);
+        QVERIFY(run.FindNext(box, wanted) && box.SelStart() == 25);
+        QVERIFY(!run.FindNext(box, wanted));
+    }
+
     // One character before the selection counts, too, and a hit may reach beyond its end.
     void searchesAroundTheSelection() {
         TextBuffer box(u"xaxxax"_s);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The text tools by their controls, in the real program.
+#include "platform/events.h"
 #include "platform/literals.h"
 #include "state/commands.h"
 #include "state/settings.h"
@@ -11,6 +12,10 @@
 
 class TextToolsTest : public ProgramTest {
     Q_OBJECT
+
+    const QString BackUpQuestion =
+        u"Sie sollten von der aktuellen Datei ein Backup erstellen, um bei\r\neinem "
+        "Codierungsfehler die Daten wiederherstellen zu können.\r\nMöchten Sie das jetzt tun?"_s;
 
     void Open(const QByteArray& text) {
         Documents::OpenFile(m_folder->Write(u"seite.htm"_s, "-//W3C//DTD HTML\r\n" + text));
@@ -57,6 +62,11 @@ private slots:
         QCOMPARE(Text(), u"drei! zwei drei!"_s);
         Driver::Trigger(u"Menu_Edit_Undo"_s);
         QCOMPARE(Text(), u"eins zwei eins"_s);
+        Box().SetText(u"eins\r\nzwei"_s);
+        field->setText(u"s\nz"_s); // as a paste leaves it
+        ExpectEnd();
+        Driver::Click(u"Cmd_Control_2"_s);
+        QCOMPARE(Box().Text(), u"eindrei!wei"_s);
         QTest::keyClick(field, Qt::Key_Escape);
         QVERIFY(!Loaded<Frm_Search>());
     }
@@ -65,6 +75,9 @@ private slots:
         Open("\xE4 \xDF\r\n");
         In(u"Menu_Tools_Uml"_s, u"Frm_UmlCorrection"_s, [](QWidget*) { Driver::Click(u"Cmd_Control_0"_s); });
         QCOMPARE(Text(), u"&auml; &szlig;\r\n"_s);
+        Driver::PressCode(Qt::Key_Z, Qt::ControlModifier); // the box's own history knows of it, too
+        QCOMPARE(Text(), u"ä ß\r\n"_s);
+        Driver::PressCode(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         In(u"Menu_Tools_Uml"_s, u"Frm_UmlCorrection"_s, [](QWidget*) {
             Driver::Click(u"Opt_UmlOptions_1"_s);
             Driver::Click(u"Cmd_Control_0"_s);
@@ -84,6 +97,51 @@ private slots:
         });
         QCOMPARE(m_dialogs->lastMessage.preset, Dialogs::Answer::No);
         QCOMPARE(Text(), u"Üx"_s);
+        QVERIFY(!Global::DocChanged);
+    }
+
+    // A line without a blank in it, which would take the layout for ever if it looked for the ends of words.
+    void goesOnWithLongWords() {
+        Open("");
+        Box().SetText(u'x' + QString(1'000'000, u'&'));
+        QVERIFY(Box().LineFromChar(1'000'000) > 100);
+        Box().SetText(u"x y"_s);
+        Select(2);
+        Box().SetSelText(QString(1'000'000, u'&'));
+        QVERIFY(Box().LineFromChar(1'000'000) > 100);
+    }
+
+    void changesNothingWithoutNeed() {
+        Open("<p>x</p>");
+        for (const auto& [command, dialog] :
+             {std::pair(u"Menu_Tools_Uml"_s, u"Frm_UmlCorrection"_s),
+              std::pair(u"Menu_Tools_DeleteComment"_s, u"Frm_DeleteComments"_s)}) {
+            In(command, dialog, [](QWidget*) { Driver::Click(u"Cmd_Control_0"_s); });
+        }
+        Driver::Trigger(u"Menu_Tools_LCaseTags"_s);
+        QVERIFY(!Global::DocChanged);
+    }
+
+    // A copy that was asked for and cannot be written: nothing is deleted behind its user's back.
+    void asksWithoutBackUp() {
+        Open("<p><!--a-->");
+        QDir(m_folder->System(u"."_s)).mkdir(u"seite.htm.bak"_s);
+        const QString failed =
+            u"Die Sicherheitskopie konnte nicht geschrieben werden. Möchten Sie trotzdem fortfahren?"_s;
+        m_dialogs->ExpectMessage(u"Kommentare löschen"_s, failed, Dialogs::Answer::No);
+        In(u"Menu_Tools_DeleteComment"_s, u"Frm_DeleteComments"_s, [](QWidget* dialog) {
+            Driver::Click(u"Cmd_Control_0"_s);
+            QVERIFY(dialog->isVisible());
+            Driver::Click(u"Cmd_Control_1"_s);
+        });
+        m_dialogs->ExpectMessage(u"Code verschlüsseln"_s, BackUpQuestion, Dialogs::Answer::Yes);
+        m_dialogs->ExpectMessage(u"Code verschlüsseln"_s, failed, Dialogs::Answer::No);
+        Driver::Trigger(u"Menu_Tools_MadCode"_s);
+        QCOMPARE(Text(), u"<p><!--a-->"_s);
+        m_dialogs->ExpectMessage(u"Kommentare löschen"_s, failed, Dialogs::Answer::Yes);
+        In(u"Menu_Tools_DeleteComment"_s, u"Frm_DeleteComments"_s,
+           [](QWidget*) { Driver::Click(u"Cmd_Control_0"_s); });
+        QCOMPARE(Text(), u"<p>"_s);
     }
 
     void deletesCommentsAndPacks() {
@@ -97,14 +155,11 @@ private slots:
         Driver::Trigger(u"Menu_Edit_Undo"_s);
         QVERIFY(Text().startsWith(u"<p><!--a-->b"));
 
-        const QString backup = u"Sie sollten von der aktuellen Datei ein Backup erstellen, um bei\r\neinem "
-                               "Codierungsfehler die Daten wiederherstellen zu können.\r\nMöchten Sie das "
-                               "jetzt tun?"_s;
-        m_dialogs->ExpectMessage(u"Code verschlüsseln"_s, backup, Dialogs::Answer::Cancel);
+        m_dialogs->ExpectMessage(u"Code verschlüsseln"_s, BackUpQuestion, Dialogs::Answer::Cancel);
         Driver::Trigger(u"Menu_Tools_MadCode"_s);
         QVERIFY(Text().contains(u"\r\n"));
         Box().SetText(u"<p>a\r\n\t b<!-- c -->"_s);
-        m_dialogs->ExpectMessage(u"Code verschlüsseln"_s, backup, Dialogs::Answer::No);
+        m_dialogs->ExpectMessage(u"Code verschlüsseln"_s, BackUpQuestion, Dialogs::Answer::No);
         Driver::Trigger(u"Menu_Tools_MadCode"_s);
         QCOMPARE(Box().Text(), u"<p>a b"_s);
         Driver::Trigger(u"Menu_Edit_Undo"_s);
@@ -113,15 +168,25 @@ private slots:
         Global::DocChanged = false;
         Documents::CreateNewTextFile();
         Box().SetText(u"a\tb"_s);
-        // A save that is cancelled leaves the text as it is.
-        m_dialogs->ExpectMessage(u"Code verschlüsseln"_s,
-                                 u"Die aktuelle Datei wurde noch nicht gespeichert. Sie sollten sie\r\n"
+        const QString notSaved = u"Die aktuelle Datei wurde noch nicht gespeichert. Sie sollten sie\r\n"
                                  "speichern, da Sie sonst keine Originalversion der Datei haben.\r\nMöchten "
-                                 "Sie das jetzt tun?"_s,
-                                 Dialogs::Answer::Yes);
+                                 "Sie das jetzt tun?"_s;
+        // A save that is cancelled leaves the text as it is.
+        m_dialogs->ExpectMessage(u"Code verschlüsseln"_s, notSaved, Dialogs::Answer::Yes);
         m_dialogs->ExpectSaveFile(u"Speichern unter"_s, {});
         Driver::Trigger(u"Menu_Tools_MadCode"_s);
         QCOMPARE(Box().Text(), u"a\tb"_s);
+        // While a save refreshes the project view another document can be opened; that one is not packed.
+        const QString other = m_folder->Write(u"andere.txt"_s, "c\td");
+        Neighbours::SearchLinks.AnsweredBy([&] {
+            Global::ProjectWindowOpen = false;
+            Documents::OpenFile(other);
+        });
+        Global::ProjectWindowOpen = true;
+        m_dialogs->ExpectMessage(u"Code verschlüsseln"_s, notSaved, Dialogs::Answer::Yes);
+        m_dialogs->ExpectSaveFile(u"Speichern unter"_s, m_folder->Path(u"neu.txt"_s));
+        Driver::Trigger(u"Menu_Tools_MadCode"_s);
+        QCOMPARE(Box().Text(), u"c\td"_s);
     }
 
     void checksSpelling() {
@@ -137,7 +202,15 @@ private slots:
                                  u"Ein Tag hat kein Ende. Es wurde nur der Text vor ihm geprüft."_s);
         m_dialogs->ExpectMessage(u"Fertig"_s, u"3 Wörter hinzugefügt"_s);
         In(u"Menu_Tools_SpellingCheck"_s, u"Frm_SpellingCheck"_s, [](QWidget* dialog) {
+            // Both buttons once more while the check lets events run.
+            const Events::Source before = Events::Replace({[] {
+                                                               Driver::Click(u"Cmd_Control_1"_s);
+                                                               Driver::Click(u"Cmd_Control_0"_s);
+                                                           },
+                                                           {},
+                                                           {}});
             Driver::Click(u"Cmd_Control_1"_s);
+            Events::Replace(before);
             Driver::Click(u"Cmd_Control_0"_s);
             QTest::keyClick(dialog, Qt::Key_Escape);
         });
