@@ -95,6 +95,7 @@ dialog frames "alt+e f" true
 dialog metatags "alt+e m" true
 dialog styleelement "alt+e e e" true
 dialog designs "alt+e e v" keys Down
+dialog speedcheck "alt+t c" true
 if is_wanted toolfenster; then
     keys alt+a Down Down Down Down Return
     for key in b t s e; do keys F6 alt+a $key; done

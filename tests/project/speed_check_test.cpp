@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+// The window SpeedCheck by its menu item, in the real program.
+#include "project/frm_speed_check.h"
+
+#include "support/program_test.h"
+
+#include <QTreeView>
+
+class SpeedCheckTest : public ProgramTest {
+    Q_OBJECT
+
+    // Opens the window for a page of that text, and runs `inside` in it.
+    void In(const QByteArray& page, std::function<void(QWidget*)> inside) {
+        Documents::OpenFile(m_folder->Write(u"seite.htm"_s, "-//W3C//DTD HTML\r\n" + page));
+        Driver::InModal(u"Frm_SpeedCheck"_s, std::move(inside));
+        Driver::Trigger(u"Menu_Tools_SpeedCheck"_s);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!Loaded<Frm_SpeedCheck>());
+    }
+    static int Rows(const QString& list) { return Driver::Find<QTreeView>(list)->model()->rowCount(); }
+
+private slots:
+    void weighsTheSavedPage() {
+        m_folder->Write(u"a.png"_s, QByteArray(2048, 'x'));
+        In("<img src=\"a.png\"><img src=\"a.png\">", [](QWidget* window) {
+            QTRY_COMPARE(Rows(u"Lvw_Message"_s), 6);
+            QCOMPARE(Rows(u"Lvw_Files"_s), 2);
+            QTest::keyClick(window, Qt::Key_Escape);
+        });
+    }
+
+    void tellsOfCycles() {
+        m_dialogs->ExpectMessage(
+            u"SpeedCheck"_s, u"Die Seiten rufen sich gegenseitig auf. Die Berechnung wurde abgebrochen."_s);
+        In("<frame src=\"seite.htm\">", [](QWidget* window) {
+            QTRY_COMPARE(Rows(u"Lvw_Message"_s), 6);
+            QVERIFY(Rows(u"Lvw_Files"_s) > 0);
+            QTest::keyClick(window, Qt::Key_Escape);
+        });
+    }
+
+    // Closed in the middle, it neither goes on nor shows results.
+    void endsWithItsWindow() {
+        In(QByteArray("<img src=\"a.png\">").repeated(100'000), [](QWidget* window) {
+            QTRY_VERIFY(Rows(u"Lvw_Files"_s) > 0);
+            QTest::keyClick(window, Qt::Key_Escape);
+            QCOMPARE(Rows(u"Lvw_Message"_s), 0);
+        });
+    }
+
+    void staysAwayWithoutAFile() {
+        Documents::CreateNewTextFile();
+        m_dialogs->ExpectSaveFile(u"Speichern unter"_s, {});
+        Driver::Trigger(u"Menu_Tools_SpeedCheck"_s);
+        QVERIFY(!Loaded<Frm_SpeedCheck>());
+    }
+};
+
+REGISTER_TEST_AS(SpeedCheck, SpeedCheckTest);
+#include "speed_check_test.moc"
