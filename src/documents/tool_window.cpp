@@ -24,11 +24,9 @@ bool IsModifier(int key) {
            key == Qt::Key_Meta;
 }
 
-QWidget* MainWindow() { return MdiChild::Host() ? MdiChild::Host()->window() : nullptr; }
-
 } // namespace
 
-ToolWindow::ToolWindow(ToolKind kind) : QWidget(MainWindow(), Qt::Tool), m_kind(std::move(kind)) {
+ToolWindow::ToolWindow(ToolKind kind) : QWidget(MdiChild::HostWindow(), Qt::Tool), m_kind(std::move(kind)) {
     setObjectName(m_kind.name);
     setWindowTitle(m_kind.caption);
     setAttribute(Qt::WA_ShowWithoutActivating);

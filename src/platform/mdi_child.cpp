@@ -21,6 +21,8 @@ void MdiChild::SetHost(QMdiArea* host) { HostArea() = host; }
 
 QMdiArea* MdiChild::Host() { return HostArea(); }
 
+QWidget* MdiChild::HostWindow() { return HostArea() ? HostArea()->window() : nullptr; }
+
 MdiChild::MdiChild() {
     if (!HostArea()) {
         installEventFilter(this);

@@ -21,6 +21,8 @@ public:
     // The area that children made from now on lie in; without one they are windows of their own.
     static void SetHost(QMdiArea* host);
     static QMdiArea* Host();
+    // The window around the area, which owns the windows beside it; none without one.
+    static QWidget* HostWindow();
 
     int Left() const { return m_place.left; }
     int Top() const { return m_place.top; }

@@ -26,8 +26,6 @@ const QString Caption = QStringLiteral("Navigation");
 constexpr int BarHeight = 660; // twips
 constexpr int BarWidth = 540;  // pixels
 
-QWidget* Owner() { return MdiChild::Host() ? MdiChild::Host()->window() : nullptr; }
-
 // Carries out a step of the browser, where there is one.
 template<void (Frm_Browser::*step)()> void Press() {
     if (Loaded<Frm_Browser>()) (Shared<Frm_Browser>().*step)();
@@ -36,7 +34,7 @@ template<void (Frm_Browser::*step)()> void Press() {
 } // namespace
 
 Frm_Navigation::Frm_Navigation()
-    : QWidget(Owner(), Qt::Tool), Tlb_Navigation(new QToolBar), Cmb_Url(new QComboBox) {
+    : QWidget(MdiChild::HostWindow(), Qt::Tool), Tlb_Navigation(new QToolBar), Cmb_Url(new QComboBox) {
     setObjectName(u"Frm_Navigation"_s);
     setWindowTitle(Caption);
     Tlb_Navigation->setObjectName(u"Tlb_Navigation"_s);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "texttools/class_list.h"
 
+#include "documents/code_access.h"
 #include "documents/link_list.h"
 #include "documents/paths.h"
 #include "documents/text_buffer.h"
@@ -18,18 +19,18 @@ namespace {
 // --- style rules ---
 
 bool StandsInName(QChar c) {
-    return c == u'-' || c == u'_' || c.unicode() >= 0x80 || (c >= u'0' && c <= u'9') ||
+    return c == u'-' || c == u'_' || c.unicode() >= 0x80 || RuntimeExtension::IsDigit(c) ||
            (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
 }
 
 bool BeginsName(QStringView name) {
-    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
-    if (name.isEmpty() || isDigit(name.front()) || name == u"-") return false;
-    return name.front() != u'-' || !isDigit(name[1]);
+    using RuntimeExtension::IsDigit;
+    if (name.isEmpty() || IsDigit(name.front()) || name == u"-") return false;
+    return name.front() != u'-' || !IsDigit(name[1]);
 }
 
 bool IsHexDigit(QChar c) {
-    return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
+    return RuntimeExtension::IsDigit(c) || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
 }
 
 // Length of the escape at the start of `text`, 0 when none stands there. The blank that parts a number from

@@ -32,8 +32,6 @@ constexpr int Gap = 24; // pixels between a hit and the window that makes way fo
 // The last texts of each field, newest first, for as long as the program runs.
 std::array<QStringList, 2> keptTexts;
 
-QWidget* MainWindow() { return MdiChild::Host() ? MdiChild::Host()->window() : nullptr; }
-
 // The lines of the selection that are in sight, in the code box's viewport and as wide as it.
 QRect SelectedLines(const Txt_Code& box) {
     QTextCursor start = box.textCursor();
@@ -55,8 +53,8 @@ template<class Button> Button* Named(const QString& name, const QString& caption
 } // namespace
 
 Frm_Search::Frm_Search()
-    : QDialog(MainWindow()), m_fields{AddField(SearchText, u"suchen nach:"_s),
-                                      AddField(Replacement, u"ersetzen durch:"_s)},
+    : QDialog(MdiChild::HostWindow()), m_fields{AddField(SearchText, u"suchen nach:"_s),
+                                                AddField(Replacement, u"ersetzen durch:"_s)},
       Opt_Option_0(Named<QRadioButton>(u"Opt_Option_0"_s, u"ganzes Dokument"_s)),
       Opt_Option_1(Named<QRadioButton>(u"Opt_Option_1"_s, u"markierter Text"_s)),
       Chk_Option_0(Named<QCheckBox>(u"Chk_Option_0"_s, u"Text ersetzen"_s)),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "texttools/spelling.h"
 
+#include "documents/code_access.h"
 #include "platform/files.h"
 #include "platform/literals.h"
 #include "platform/text.h"
@@ -13,11 +14,9 @@ namespace {
 
 constexpr QStringView Punctuation = u".,:;-()!?$&/\\={}'\"";
 
-bool IsDigit(QChar c) { return c >= u'0' && c <= u'9'; }
-
 // `piece` as it is looked up; empty when it is no word.
 QString WordIn(QStringView piece) {
-    if (std::ranges::any_of(piece, IsDigit)) return {};
+    if (std::ranges::any_of(piece, RuntimeExtension::IsDigit)) return {};
     QString word;
     word.reserve(piece.size());
     for (const QChar c : piece) {
