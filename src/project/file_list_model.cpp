@@ -18,7 +18,8 @@ QIcon IconFor(const QString& key) {
         {u"HTMLFile"_s, u"page"}, {u"WMLFile"_s, u"browser_wap"},   {u"CSS"_s, u"style_sheet"},
         {u"VBS"_s, u"script"},    {u"JS"_s, u"script_file"},        {u"Image"_s, u"picture"},
         {u"UserDef2"_s, u"file"}, {u"Extern2"_s, u"external_link"}, {u"Error3"_s, u"file_missing"},
-        {u"HTML"_s, u"page"},     {u"UnknownFile2"_s, u"file"},
+        {u"HTML"_s, u"page"},     {u"UnknownFile2"_s, u"file"},     {u"WML"_s, u"browser_wap"},
+        {u"Unknown"_s, u"file"},  {u"Unknown3"_s, u"file"},
     };
     return Icons::Named(drawings.value(key));
 }
@@ -48,6 +49,16 @@ FileListRow FileListRow::From(const ExtendedFileRow& row) {
             row.icon};
 }
 
+FileListRow FileListRow::From(const SiteFile& file) {
+    return {{file.name, Files::ToSystem(file.folder), file.type},
+            Files::ToSystem(file.path),
+            file.tag,
+            {},
+            {},
+            {},
+            file.icon};
+}
+
 FileListModel::FileListModel(const QStringList& captions, QObject* parent)
     : QAbstractTableModel(parent), m_captions(captions) {}
 
@@ -75,6 +86,20 @@ void FileListModel::Add(std::vector<FileListRow> rows) {
         m_order.insert(place, run, end);
         endInsertRows();
         run = end;
+    }
+}
+
+void FileListModel::Remove(std::vector<int> rows) {
+    std::sort(rows.begin(), rows.end());
+    // one removal for each unbroken run of rows, from the last on, so that those before keep their numbers
+    while (!rows.empty()) {
+        const int last = rows.back();
+        int first = last;
+        rows.pop_back();
+        for (; !rows.empty() && rows.back() == first - 1; rows.pop_back()) --first;
+        beginRemoveRows({}, first, last);
+        m_order.erase(m_order.begin() + first, m_order.begin() + last + 1);
+        endRemoveRows();
     }
 }
 
