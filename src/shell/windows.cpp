@@ -25,6 +25,7 @@
 #include "preview/wire_preview.h"
 #include "project/frm_project_manager.h"
 #include "project/frm_speed_check.h"
+#include "project/frm_upload_assistant.h"
 #include "project/wire_project.h"
 #include "shell/frm_info.h"
 #include "shell/frm_key_combo.h"
@@ -72,6 +73,7 @@ constexpr Row AllWindows[] = {
     Shown<Frm_ProjectManager>(u"Frm_ProjectManager", u"Menu_Tools_ProjectManager",
                               Project::Menu_Tools_ProjectManager_Click),
     Shown<Frm_SpeedCheck>(u"Frm_SpeedCheck", u"Menu_Tools_SpeedCheck", Project::Menu_Tools_SpeedCheck_Click),
+    Modal<Frm_UploadAssistant>(u"Frm_UploadAssistant", u"Menu_File_UploadAssistant"),
     Shown<Frm_Assistant>(u"Frm_Assistant", {}, [] { Neighbours::ShowAssistant(true); }),
     Shown<Frm_Help>(u"Frm_Help", u"Menu_Help_Index", [] { Shared<Frm_Help>().BringToFront(); }),
     Shown<Frm_Load>(u"Frm_Load", {}, [] { Shared<Frm_Load>().show(); }),
