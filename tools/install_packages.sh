@@ -6,10 +6,10 @@ set -eu
 
 packages="g++ cmake ninja-build ccache pkg-config libgl1-mesa-dev libvulkan-dev
     qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-declarative-dev qt6-webengine-dev libqt6svg6
-    qt6-translations-l10n fonts-liberation"
+    qt6-translations-l10n fonts-liberation libcurl4-openssl-dev"
 case "${1:-build}" in
 run) packages="$packages xvfb xauth imagemagick" ;;
-test) packages="$packages clang-format xvfb xauth" ;;
+test) packages="$packages clang-format xvfb xauth curl openssl python3-pyftpdlib python3-openssl vsftpd" ;;
 esac
 
 missing=""

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A session with an FTP server (RFC 959, 2428, 4217). The one place that knows libcurl.
+// A session with an FTP server (RFC 959, 2428, 4217).
 #pragma once
 
 #include <QString>
@@ -18,7 +18,8 @@ public:
     // `sent` of `all` bytes of the file are on their way; both 0 outside Put().
     using GoOn = std::function<bool(qint64 sent, qint64 all)>;
 
-    explicit FtpConnection(Limits limits = {});
+    FtpConnection();
+    explicit FtpConnection(Limits limits);
     ~FtpConnection(); // takes leave of the server
     FtpConnection(const FtpConnection&) = delete;
     FtpConnection& operator=(const FtpConnection&) = delete;

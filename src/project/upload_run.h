@@ -19,12 +19,16 @@ public:
     };
     struct Listener {
         std::function<void(const QString& line, Kind kind)> appendStatus;
-        std::function<void(bool busy)> busy; // around the calls that wait for the server
-        FtpConnection::GoOn goOn;            // false ends the run
+        // Around the calls that wait for the server; each true is followed by its false.
+        std::function<void(bool busy)> busy;
+        // False ends the run: no line and no call of this one comes behind it.
+        FtpConnection::GoOn goOn;
     };
 
     // `root` is the start page's full path.
     UploadRun(Target target, QString root, Listener listener, FtpConnection::Limits limits = {});
+    UploadRun(const UploadRun&) = delete;
+    UploadRun& operator=(const UploadRun&) = delete;
 
     bool ConnectToServer();
     // `path` is a full local path, or, with "/" in front, one that counts from the start page's folder here
@@ -34,8 +38,15 @@ public:
     void UploadAllFiles(const QStringList& folders);
 
 private:
+    bool GoesOn(qint64 sent, qint64 all);
+    void AppendStatus(const QString& line, Kind kind) const;
+    bool WhileBusy(const std::function<bool()>& call) const;
+    void EnsureFolder(const QString& folder, const QString& chain);
+
     const Target m_target;
     const QString m_root;
     const Listener m_listener;
     const FtpConnection::Limits m_limits;
+    const FtpConnection::GoOn m_goOn; // asks the listener until that has said no
+    bool m_left = false;
 };

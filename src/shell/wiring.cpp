@@ -5,6 +5,7 @@
 #include "debugger/wire_debugger.h"
 #include "editing/code_aids.h"
 #include "preview/wire_preview.h"
+#include "project/ftp.h"
 #include "project/wire_project.h"
 #include "shell/addresses.h"
 #include "shell/frm_main.h"
@@ -31,6 +32,7 @@ void WireWindows() {
 void UnloadAll() {
     Windows::UnloadAll();
     Unload<Frm_Main>();
+    FTP::CloseConnection();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
