@@ -3,6 +3,7 @@
 
 #include "platform/dialogs.h"
 #include "platform/events.h"
+#include "platform/files.h"
 #include "platform/icons.h"
 #include "platform/literals.h"
 #include "platform/twips.h"
@@ -153,8 +154,9 @@ QWidget* Frm_UploadAssistant::MakeFilesStep() {
     const int character = Lvw_Files->fontMetrics().averageCharWidth();
     Lvw_Files->header()->setStretchLastSection(false);
     Lvw_Files->header()->setSectionResizeMode(1, QHeaderView::Stretch);
-    Lvw_Files->setColumnWidth(0, 20 * character);
+    Lvw_Files->setColumnWidth(0, 18 * character);
     Lvw_Files->setColumnWidth(2, 10 * character);
+    Reserve(Lvw_Files, {54 * character, 8 * Lvw_Files->fontMetrics().height()});
     Cmd_LoadNew = Named(new QPushButton(u"Dateien wiederherstellen"_s), u"Cmd_LoadNew"_s);
     Cmd_RemoveFile = Named(new QPushButton(u"Datei entfernen"_s), u"Cmd_RemoveFile"_s);
     Cmd_RemoveFile->setEnabled(false);
@@ -322,8 +324,21 @@ void Frm_UploadAssistant::LoadFiles() {
     }
     if (!alive || m_left) return;
     show();
+    RemoveOutsideFiles();
     Cmd_LoadNew->setEnabled(true);
     Cmd_Control[0]->setEnabled(true);
+}
+
+// What lies above the page's folder has no place on the server. One step up, the folder shown does not tell.
+void Frm_UploadAssistant::RemoveOutsideFiles() {
+    const QString& page = Global::CurrentFile;
+    const QString inside = Files::ToSystem(page.first(page.lastIndexOf(u'\\') + 1));
+    std::vector<int> rows;
+    for (int row = 0; row < m_files->rowCount(); ++row) {
+        const FileListRow& file = m_files->Row(row);
+        if (file.cells[1].contains(u"../") || !file.tip.startsWith(inside)) rows.push_back(row);
+    }
+    m_files->Remove(std::move(rows));
 }
 
 void Frm_UploadAssistant::RemoveFiles() {

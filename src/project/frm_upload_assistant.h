@@ -43,6 +43,7 @@ private:
     void KeepLogin();
     // Fills the list anew, which brings removed rows back.
     void LoadFiles();
+    void RemoveOutsideFiles();
     void RemoveFiles();
     QStringList Folders() const; // of the rows, as UploadRun takes them
     void Upload();
