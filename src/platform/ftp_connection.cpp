@@ -64,6 +64,12 @@ std::optional<QByteArray> Windows1252(const QString& text) {
     return CodePage::FitsWindows1252(text) ? std::optional(CodePage::ToWindows1252(text)) : std::nullopt;
 }
 
+// Whether the server has agreed to TLS, among the lines of its login.
+bool IsEncrypted(const QByteArrayList& lines) {
+    return std::any_of(lines.begin(), lines.end(),
+                       [](const QByteArray& line) { return line.startsWith("234"); });
+}
+
 // Whether the list of features in `lines` holds UTF-8.
 bool OffersUtf8(const QByteArrayList& lines) {
     const auto begin = std::find_if(lines.rbegin(), lines.rend(), [](const QByteArray& line) {
@@ -130,6 +136,8 @@ Outcome FtpConnection::Session::LogIn(const GoOn& goOn) {
     const Outcome outcome = m_transfer.Command("FEAT", patience, goOn);
     if (outcome != Outcome::Done) return outcome;
     m_utf8 = OffersUtf8(m_transfer.ReplyLines());
+    // libcurl before 8.0 sends the files of active mode in clear where the session is encrypted.
+    if (IsEncrypted(m_transfer.ReplyLines())) m_passive = true;
     // Some offer it and want to be told; what others answer does not matter.
     return m_utf8 ? m_transfer.Command("OPTS UTF8 ON", patience, goOn) : outcome;
 }
