@@ -18,7 +18,8 @@ QIcon IconFor(const QString& key) {
         {u"HTMLFile"_s, u"page"}, {u"WMLFile"_s, u"browser_wap"},   {u"CSS"_s, u"style_sheet"},
         {u"VBS"_s, u"script"},    {u"JS"_s, u"script_file"},        {u"Image"_s, u"picture"},
         {u"UserDef2"_s, u"file"}, {u"Extern2"_s, u"external_link"}, {u"Error3"_s, u"file_missing"},
-        {u"HTML"_s, u"page"},     {u"UnknownFile2"_s, u"file"},
+        {u"HTML"_s, u"page"},     {u"UnknownFile2"_s, u"file"},     {u"WML"_s, u"browser_wap"},
+        {u"Unknown"_s, u"file"},  {u"Unknown3"_s, u"file"},
     };
     return Icons::Named(drawings.value(key));
 }
@@ -46,6 +47,16 @@ FileListRow FileListRow::From(const ExtendedFileRow& row) {
             {},
             row.type,
             row.icon};
+}
+
+FileListRow FileListRow::From(const SiteFile& file) {
+    return {{file.name, Files::ToSystem(file.folder), file.type},
+            Files::ToSystem(file.path),
+            file.tag,
+            {},
+            {},
+            {},
+            file.icon};
 }
 
 FileListModel::FileListModel(const QStringList& captions, QObject* parent)

@@ -3,13 +3,14 @@
 
 #include "project/link_scanner.h"
 #include "project/project_file.h"
+#include "project/site_scan.h"
 
 #include <QAbstractTableModel>
 #include <QStringList>
 #include <deque>
 #include <vector>
 
-// A row of one of the project window's lists.
+// A row of one of the lists of files.
 struct FileListRow {
     QStringList cells; // one for each column
     QString tip;       // full path in the system's form, or the external link
@@ -21,6 +22,7 @@ struct FileListRow {
 
     static FileListRow From(const LinkRow& row);
     static FileListRow From(const ExtendedFileRow& row);
+    static FileListRow From(const SiteFile& file);
 };
 
 // The rows of a list, always in the order of their sort keys and within a key in that of their coming. Takes
