@@ -44,7 +44,7 @@ Hit FirstHit(std::vector<Search>& searches, qsizetype position) {
 
 } // namespace
 
-LinkList FindLinks(const QString& text, std::initializer_list<LinkMarker> markers) {
+LinkList FindLinks(const QString& text, const std::vector<LinkMarker>& markers) {
     const QString lower = Text::LowerCase(text);
     std::vector<Search> searches;
     for (const LinkMarker marker : markers) searches.push_back({marker, {lower, Spelling(marker)}});

@@ -5,7 +5,7 @@
 
 #include <QString>
 #include <QStringList>
-#include <initializer_list>
+#include <vector>
 
 enum class LinkMarker {
     Href,       // href="...
@@ -21,4 +21,4 @@ struct LinkList {
 };
 
 // All links of `text` that one of `markers` begins. Linear in the text.
-LinkList FindLinks(const QString& text, std::initializer_list<LinkMarker> markers);
+LinkList FindLinks(const QString& text, const std::vector<LinkMarker>& markers);

@@ -48,17 +48,6 @@ const Folders& CurrentFolders() {
     return Overridden();
 }
 
-// The file that a chain of symbolic links ends in; the path itself when it is no link or the chain has no
-// end.
-QString LinkTarget(QString system) {
-    for (int step = 0; step < 40; ++step) {
-        const QFileInfo info(system);
-        if (!info.isSymLink()) return system;
-        system = info.symLinkTarget();
-    }
-    return system;
-}
-
 // Whether the system has put all that was written on the disk. Some file systems know no such request; there
 // the writing itself has to tell.
 bool IsOnDisk(QFileDevice& file) {
@@ -119,6 +108,15 @@ bool IsFullPath(const QString& path) {
 #else
     return path.startsWith(u'\\');
 #endif
+}
+
+QString LinkTarget(QString system) {
+    for (int step = 0; step < 40; ++step) {
+        const QFileInfo info(system);
+        if (!info.isSymLink()) return system;
+        system = info.symLinkTarget();
+    }
+    return system;
 }
 
 QString MakeFull(const QString& path) { return FromSystem(QFileInfo(ToSystem(path)).absoluteFilePath()); }

@@ -22,6 +22,10 @@ QString MakeFull(const QString& path);
 // The place on disk that `path` ends at, links and ".." steps followed; empty where there is nothing.
 QString Canonical(const QString& path);
 
+// The file that a chain of symbolic links ends in, both paths in the system's form; `system` itself where it
+// is no link or the chain has no end.
+QString LinkTarget(QString system);
+
 enum class ReadError { None, FileNotFound, PathNotFound, Other };
 // The bytes of a file. On failure nothing, and `error` (if given) says why: the file is missing in an
 // existing folder, its folder is missing, or anything else (a folder, no rights, too large).

@@ -9,6 +9,7 @@
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/text.h"
+#include "preview/wap_browser.h"
 #include "state/commands.h"
 #include "state/global.h"
 #include "state/neighbours.h"
@@ -73,8 +74,8 @@ QString TemporaryFile() {
 }
 
 QString WAPStartPage() {
-    return Files::ProgramDirectory() + u"\\tmp\\"_s +
-           Global::StripExtension(Global::FileNameOf(Global::CurrentFile)) + u"htm"_s;
+    return WAPBrowser::ScratchFolder() + Global::StripExtension(Global::FileNameOf(Global::CurrentFile)) +
+           u"htm"_s;
 }
 
 void Menu_View_Browser_Once() {
@@ -109,12 +110,7 @@ void Menu_View_Browser_Temp() {
 
 void Menu_View_Browser_WAP() {
     if (!SaveFirst() || !TestKind(Global::CurrentFile)) return;
-    if (!Neighbours::GenerateWAPPreview()) {
-        Dialogs::Tell(u"WAP-Simulation"_s,
-                      u"Diese Seite kann noch nicht für die WAP-Simulation umgewandelt werden."_s,
-                      Dialogs::Icon::Information);
-        return;
-    }
+    if (!WAPBrowser::GenerateWAPPreview()) return;
     Neighbours::Browse(WAPStartPage());
     Say(u"Das ist die Vorschau der aktuellen Seite mit einem WAP-Emulator."_s);
 }

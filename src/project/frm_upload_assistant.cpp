@@ -9,11 +9,11 @@
 #include "platform/twips.h"
 #include "project/file_list_model.h"
 #include "project/ftp.h"
-#include "state/busy.h"
+#include "project/site_list.h"
 #include "state/global.h"
+#include "state/neighbours.h"
 
 #include <QCheckBox>
-#include <QElapsedTimer>
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -31,7 +31,6 @@
 
 namespace {
 
-constexpr int EventPause = 30; // milliseconds between two runs of the pending events
 constexpr int PictureSize = 48;
 constexpr int ProgressSteps = 100;
 
@@ -235,7 +234,7 @@ void Frm_UploadAssistant::OnUnload() {
 
 void Frm_UploadAssistant::reject() {
     m_left = true;
-    ToolDialog::reject();
+    Leave();
 }
 
 void Frm_UploadAssistant::showEvent(QShowEvent* event) {
@@ -301,29 +300,9 @@ void Frm_UploadAssistant::KeepLogin() {
 void Frm_UploadAssistant::LoadFiles() {
     Cmd_Control[0]->setEnabled(false);
     Cmd_LoadNew->setEnabled(false);
-    m_files->Clear();
     const QPointer<Frm_UploadAssistant> alive(this); // letting events run may end this window
-    std::vector<FileListRow> rows;                   // that wait to be shown
-    QElapsedTimer shown;
-    shown.start();
-    const auto show = [&] { m_files->Add(std::exchange(rows, {})); };
-    {
-        Busy busy;
-        SiteScan::Scan(Global::CurrentFile, {[&](const SiteFile& file) {
-                                                 // what lies above the page's folder is never sent
-                                                 if (!file.folder.contains(u"../"_s))
-                                                     rows.push_back(FileListRow::From(file));
-                                             },
-                                             [&] {
-                                                 if (!shown.hasExpired(EventPause)) return true;
-                                                 show();
-                                                 Events::DoEvents();
-                                                 shown.restart();
-                                                 return alive && !m_left;
-                                             }});
-    }
+    FillWithSite(*m_files, [this, &alive] { return alive && !m_left; });
     if (!alive || m_left) return;
-    show();
     RemoveOutsideFiles();
     Cmd_LoadNew->setEnabled(true);
     Cmd_Control[0]->setEnabled(true);
@@ -360,13 +339,9 @@ QStringList Frm_UploadAssistant::Folders() const {
 void Frm_UploadAssistant::Upload() {
     const QPointer<Frm_UploadAssistant> alive(this); // letting events run may end this window
     const auto here = [this, &alive] { return alive && !m_left; };
-    QElapsedTimer pause;
-    pause.start();
+    Events::Pace pace;
     const auto letEventsRun = [&] {
-        if (here() && pause.hasExpired(EventPause)) {
-            Events::DoEvents();
-            pause.restart();
-        }
+        if (here() && pace.IsDue()) pace.LetEventsRun();
         return here();
     };
     Txt_Status->clear();

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <array>
 #include <functional>
+#include <vector>
 
 // A file that the page or a page behind it links to.
 struct SiteFile {
@@ -29,6 +30,7 @@ struct KindSum {
 };
 
 struct Result {
+    std::vector<SiteFile> files;
     std::array<KindSum, KindCount> sums; // the start page's own is in them from the start
     // Files that are there and linked to but get no row, as those with two dots in their path.
     QStringList leftOut;
@@ -44,5 +46,9 @@ struct Listener {
 // Follows the links of the page `root` (full path; empty: nothing is found) and of all pages, style sheets
 // and scripts that it reaches. A path that climbs too far and a link without an end are told in messages.
 Result Scan(const QString& root, const Listener& listener);
+
+// Whether the file lies outside of the folder of `root`. Its folder column alone does not tell it of a file
+// beside that folder.
+bool IsOutside(const SiteFile& file, const QString& root);
 
 } // namespace SiteScan

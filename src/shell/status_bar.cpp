@@ -41,6 +41,7 @@ StatusBar::StatusBar(QWidget* parent) : QStatusBar(parent) {
         m_panels.push_back(label);
     }
     QLabel* work = m_panels[WorkPanel - 1];
+    work->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window
     auto* line = new QHBoxLayout(work);
     line->setContentsMargins(6, 0, 6, 0);
     Pic_PleaceWait = new QLabel(u" Bitte warten..."_s, work);
@@ -70,12 +71,17 @@ void StatusBar::ShowTime() {
 void StatusBar::SetPanel(int panel, const QString& text) {
     if (panel < 1 || panel > static_cast<int>(m_panels.size())) return;
     QLabel* label = m_panels[static_cast<size_t>(panel - 1)];
-    if (label->text() != text) label->setText(text);
+    if (label->text() == text) return;
+    label->setText(text);
+    if (panel == WorkPanel) label->setToolTip(text);
 }
 
 QString StatusBar::Panel(int panel) const { return m_panels.at(static_cast<size_t>(panel - 1))->text(); }
 
-void StatusBar::ShowPleaseWait(bool show) { Pic_PleaceWait->setVisible(show); }
+void StatusBar::ShowPleaseWait(bool show) {
+    if (show) SetPanel(WorkPanel, {}); // what the work before has left there
+    Pic_PleaceWait->setVisible(show);
+}
 
 void StatusBar::SetWorkProgress(int percent) {
     Prb_Work->setVisible(percent >= 0);

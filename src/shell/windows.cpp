@@ -23,6 +23,8 @@
 #include "preview/frm_browser.h"
 #include "preview/frm_navigation.h"
 #include "preview/wire_preview.h"
+#include "project/frm_page_info.h"
+#include "project/frm_project_back_up.h"
 #include "project/frm_project_manager.h"
 #include "project/frm_speed_check.h"
 #include "project/frm_upload_assistant.h"
@@ -73,6 +75,8 @@ constexpr Row AllWindows[] = {
     Shown<Frm_ProjectManager>(u"Frm_ProjectManager", u"Menu_Tools_ProjectManager",
                               Project::Menu_Tools_ProjectManager_Click),
     Shown<Frm_SpeedCheck>(u"Frm_SpeedCheck", u"Menu_Tools_SpeedCheck", Project::Menu_Tools_SpeedCheck_Click),
+    Modal<Frm_ProjectBackUp>(u"Frm_ProjectBackUp", u"Menu_File_ProjectBackUp"),
+    Modal<Frm_PageInfo>(u"Frm_PageInfo"),
     Modal<Frm_UploadAssistant>(u"Frm_UploadAssistant", u"Menu_File_UploadAssistant"),
     Shown<Frm_Assistant>(u"Frm_Assistant", {}, [] { Neighbours::ShowAssistant(true); }),
     Shown<Frm_Help>(u"Frm_Help", u"Menu_Help_Index", [] { Shared<Frm_Help>().BringToFront(); }),

@@ -154,8 +154,6 @@ inline Call<void()> StartWAPBrowser{"StartWAPBrowser"}; // its counterpart for t
 inline Call<void()> LayoutBrowser{"LayoutBrowser"};
 inline Call<void(bool)> FitBrowser{"FitBrowser"}; // whether it is held to the main window's client area
 inline Call<void(int, int, int, int)> PlaceBrowser{"PlaceBrowser"}; // left, top, width, height in twips
-// Copies and converts the current page's site for the WAP preview; returns whether that was done.
-inline Call<bool()> GenerateWAPPreview{"GenerateWAPPreview"};
 
 // --- the update check
 // -------------------------------------------------------------------------------------------

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "preview/wap_browser.h"
+
+#include "documents/document_file.h"
+#include "documents/paths.h"
+#include "platform/events.h"
+#include "platform/file_copy.h"
+#include "platform/files.h"
+#include "platform/literals.h"
+#include "platform/text.h"
+#include "project/file_management.h"
+#include "project/site_copy.h"
+#include "project/site_scan.h"
+#include "state/busy.h"
+#include "state/global.h"
+
+#include <QScopedValueRollback>
+
+namespace WAPBrowser {
+
+namespace {
+
+// The end of the document type is odd for one; that is meant.
+const QString Head =
+    u"<!DOCTYPE html PUBLIC \"-//W3C//DTD XHTML 1.0 Transitional//EN\" \"DTD/xhtml1-transitional.dtd\" />"
+    "<html xmlns=\"http://www.w3.org/1999/xhtml\"><head><style type=\"text/css\"><!--body{background-color:"
+    "#FFFFFF;color:#000000;font-family:arial;font-size:14px}a:link,a:active,a:visited{color:#0000FF;"
+    "background-color:#FFFFFF}a:hover{color:#BBBBFF;background-color:#000099}--></style></head>"_s;
+
+bool running = false; // the command's key may come again while events run
+
+// Copies the file and converts the copy. One that lies in the scratch folder itself is not touched.
+void Convert(const SiteFile& file, const QString& root, const std::function<bool()>& goOn) {
+    if (file.tag == u"Error") return;
+    const QString target = SiteCopy::TargetOf(file, root, ScratchFolder());
+    if (target.isEmpty() || Files::IsSameFile(file.tag, target)) return;
+    FileManagement::MakeFullDirectory(Global::ParentPath(target));
+    if (Files::CopyWithTimes(file.tag, target, goOn) == Files::CopyResult::Copied) ConvertWmlFile(target);
+}
+
+} // namespace
+
+QString ScratchFolder() { return Files::ProgramDirectory() + u"\\tmp\\"_s; }
+
+QString PageOf(const QString& deck) {
+    const QString upper = Text::UpperCase(deck);
+    const qsizetype card = upper.indexOf(u"<CARD");
+    if (card < 0) return deck;
+    const qsizetype bracket = deck.indexOf(u'>', card);
+    const qsizetype start = bracket < 0 ? card + 1 : bracket + 1;
+    const qsizetype end = upper.indexOf(u"</CARD", start);
+    QString body = end < 0 ? deck.sliced(start) : deck.sliced(start, end - start) + u"</body></html>"_s;
+    return Head + u"<body>"_s + body.replace(u".wml"_s, u".htm"_s, Qt::CaseInsensitive);
+}
+
+bool ConvertWmlFile(const QString& path) {
+    const QString extension = Global::ExtensionOf(path);
+    if (extension != u"wml" && extension != u"htm") return true;
+    auto document = DocumentFile::Load(path);
+    if (!document) return false;
+    const QString page = Global::StripExtension(path) + u"htm"_s;
+    if (extension == u"wml" || page == path) Files::Remove(path);
+    // the declaration that told the encoding may be gone with what stood before the card
+    if (document->format.encoding == CodePage::Encoding::Utf8) document->format.mark = true;
+    return DocumentFile::Save(page, PageOf(document->text), document->format);
+}
+
+bool GenerateWAPPreview() {
+    if (running) return false;
+    const QScopedValueRollback guard(running, true);
+    const QString root = Global::CurrentFile;
+    const auto isOpen = [&] { return Global::DocOpen && Global::CurrentFile == root; };
+    Busy busy;
+    Events::Pace pace;
+    const auto goOn = [&] {
+        if (pace.IsDue()) pace.LetEventsRun();
+        return isOpen();
+    };
+    const std::vector<SiteFile> files = SiteScan::Scan(root, {{}, goOn}).files;
+    for (size_t i = 0; i < files.size() && goOn(); ++i) {
+        busy.Progress(static_cast<qsizetype>(i) + 1, static_cast<qsizetype>(files.size()));
+        Convert(files[i], root, goOn);
+    }
+    return isOpen();
+}
+
+} // namespace WAPBrowser

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "project/page_walk.h"
+
+#include "documents/code_access.h"
+#include "documents/document_file.h"
+#include "documents/paths.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/literals.h"
+
+#include <algorithm>
+
+namespace {
+
+// Whether no file can bear the name, wherever the site is put up: it is not looked for in vain then. A link
+// with a query ("seite.htm?x=1") is of that kind.
+bool IsBadName(const QString& name) {
+    return std::any_of(name.begin(), name.end(),
+                       [](QChar c) { return c < u' ' || u"?*:<>|\""_s.contains(c); });
+}
+
+} // namespace
+
+PageLoader::Loading PageLoader::Load(const QString& path) {
+    if (const auto document = DocumentFile::Load(path)) {
+        m_text = document->text;
+        m_title.reset();
+        m_links.reset();
+        return Loading::Loaded;
+    }
+    Files::ReadError error = Files::ReadError::None;
+    Files::Read(path, &error);
+    const bool missing = error == Files::ReadError::FileNotFound && !IsBadName(Global::FileNameOf(path));
+    return missing ? Loading::Missing : Loading::Failed;
+}
+
+const QString& PageLoader::Title() {
+    if (!m_title) m_title = HTMLAccess::TitleOf(m_text);
+    return *m_title;
+}
+
+std::shared_ptr<TextLinks> PageLoader::Links() {
+    if (!m_links) {
+        m_links = std::make_shared<TextLinks>();
+        m_links->list = FindLinks(m_text, m_markers);
+    }
+    return m_links;
+}
+
+void PageWalk::Enter(const QString& path, PageLoader::Loading loading) {
+    auto links = m_loader.Links();
+    if (loading != PageLoader::Loading::Loaded && std::exchange(links->searchedAgain, true)) return;
+    m_waiting.push_back({path, path.first(path.lastIndexOf(u'\\') + 1), std::move(links)});
+}
+
+std::optional<PageWalk::Link> PageWalk::Next() {
+    Page& page = m_waiting.back();
+    if (page.next < page.links->list.links.size()) {
+        const qsizetype number = page.next++;
+        return Link{page.links->list.links[number], page.path, number};
+    }
+    const bool tell = page.links->list.cutShort && !std::exchange(page.links->cutShortTold, true);
+    m_waiting.pop_back();
+    if (tell) Dialogs::Tell({}, u"Unerwarteter Fehler."_s, Dialogs::Icon::None);
+    return std::nullopt;
+}
+
+QString PageWalk::TargetOf(const Link& link) const {
+    const Page& page = m_waiting.back();
+    auto path = Global::PathOfLink(link.text, page.folder);
+    if (!path) {
+        const qsizetype told = page.links->unresolvedTold.size();
+        page.links->unresolvedTold.insert(link.number);
+        const bool isNew = page.links->unresolvedTold.size() > told;
+        path = isNew ? Global::ResolveLink(link.text, page.folder) : QString();
+    }
+    return Global::CutBefore(*path, u"#"_s);
+}
