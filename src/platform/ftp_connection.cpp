@@ -110,7 +110,7 @@ bool FtpConnection::Session::Open(const QString& server, const QString& user, co
                                   const GoOn& goOn) {
     m_open = false;
     const auto address = AddressOf(server);
-    if (!address || HasControlCharacter(server) || HasControlCharacter(user) || HasControlCharacter(password))
+    if (!address || HasControlCharacter(server.trimmed()) || HasControlCharacter(user) || HasControlCharacter(password))
         return false;
     const QByteArray certificates = QFile::encodeName(Files::ToSystem(m_limits.certificates));
     if (!m_transfer.SetServer(address->host, address->port, certificates)) return false;

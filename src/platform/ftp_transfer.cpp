@@ -59,6 +59,9 @@ FtpTransfer::FtpTransfer() {
     Set(CURLOPT_FTP_FILEMETHOD, long(CURLFTPMETHOD_NOCWD));
     Set(CURLOPT_USE_SSL, long(CURLUSESSL_TRY));
     Set(CURLOPT_FTPSSLAUTH, long(CURLFTPAUTH_TLS));
+    // Many a server wants each file's connection to go on with the TLS session of the first one, and a ticket
+    // of version 1.3 is good for one connection alone.
+    Set(CURLOPT_SSLVERSION, long(CURL_SSLVERSION_TLSv1_2) | long(CURL_SSLVERSION_MAX_TLSv1_2));
     Set(CURLOPT_UPLOAD_BUFFERSIZE, SendBuffer);
     Set(CURLOPT_READFUNCTION, &ReadFile);
     Set(CURLOPT_READDATA, this);
