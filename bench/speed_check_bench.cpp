@@ -101,8 +101,8 @@ void MeasureCycle(const ProgramFolder& folder) {
     constexpr std::array Kilobytes{10, 100, 1000};
     std::array<double, Kilobytes.size()> times{};
     for (size_t size = 0; size < Kilobytes.size(); ++size) {
-        const QByteArray rest = QByteArray("<p>Text <!-- Notiz --> im <b>Beet</b></p>\r\n")
-                                    .repeated(Kilobytes[size] * 1000 / 41);
+        const QByteArray rest =
+            QByteArray("<p>Text <!-- Notiz --> im <b>Beet</b></p>\r\n").repeated(Kilobytes[size] * 1000 / 41);
         folder.Write(u"b.htm"_s, "<frame src=\"a.htm\">" + rest);
         const QString page = folder.Write(u"a.htm"_s, "<frame src=\"b.htm\">" + rest);
         times[size] = LeastOfThree([&] { return ScanTime(page); });
