@@ -39,6 +39,7 @@ Frm_SpeedCheck::Frm_SpeedCheck()
     Lvw_Files->setTextElideMode(Qt::ElideMiddle); // the names of deep frames stand behind a long indentation
     Lvw_Files->header()->setStretchLastSection(false);
     Lvw_Files->header()->setSectionResizeMode(1, QHeaderView::Stretch);
+    Lvw_Files->header()->resizeSection(2, fontMetrics().horizontalAdvance(u"999999999999 kB"_s));
     Lvw_Message->setHeaderLabel(u"Meldung"_s);
     Lvw_Message->setRootIsDecorated(false);
     Lvw_Message->setObjectName(u"Lvw_Message"_s);
