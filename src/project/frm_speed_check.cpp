@@ -11,6 +11,7 @@
 #include "state/global.h"
 #include "state/neighbours.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QHeaderView>
 #include <QPointer>
@@ -19,6 +20,7 @@
 #include <QTreeView>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace {
 constexpr int EventPause = 20; // milliseconds between two runs of the pending events
@@ -34,8 +36,10 @@ Frm_SpeedCheck::Frm_SpeedCheck()
     Lvw_Files->setModel(m_files);
     Lvw_Files->setRootIsDecorated(false);
     Lvw_Files->setUniformRowHeights(true);
+    Lvw_Files->setTextElideMode(Qt::ElideMiddle); // the names of deep frames stand behind a long indentation
     Lvw_Files->header()->setStretchLastSection(false);
     Lvw_Files->header()->setSectionResizeMode(1, QHeaderView::Stretch);
+    Lvw_Files->header()->resizeSection(2, fontMetrics().horizontalAdvance(u"999999999999 kB"_s));
     Lvw_Message->setHeaderLabel(u"Meldung"_s);
     Lvw_Message->setRootIsDecorated(false);
     Lvw_Message->setObjectName(u"Lvw_Message"_s);
@@ -67,7 +71,20 @@ void Frm_SpeedCheck::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) QTimer::singleShot(0, this, &Frm_SpeedCheck::Run);
 }
 
+// Who comes back from another program, where he may have made a picture smaller, sees the new sizes. A
+// message of the run itself must not begin the next one.
+bool Frm_SpeedCheck::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked) m_repeats = false;
+    if (event->type() == QEvent::WindowDeactivate) m_repeats = QApplication::activeModalWidget() == this;
+    if (event->type() == QEvent::WindowActivate && std::exchange(m_repeats, false)) {
+        QTimer::singleShot(0, this, &Frm_SpeedCheck::Run);
+    }
+    return QDialog::event(event);
+}
+
 void Frm_SpeedCheck::Run() {
+    if (m_running || m_left) return;
+    m_running = true;
     if (Global::AssistantOpen) {
         Neighbours::RunAnimation(
             1,
@@ -77,6 +94,7 @@ void Frm_SpeedCheck::Run() {
             "Ladezeit "
             "dieser Seite für verschiedene Verbindungen."_s);
     }
+    const int top = Lvw_Files->indexAt({}).row(); // where the user was reading
     m_files->Clear();
     Lvw_Message->clear();
     const QPointer<Frm_SpeedCheck> alive(this); // letting events run may end this window
@@ -98,6 +116,7 @@ void Frm_SpeedCheck::Run() {
          }});
     if (!alive || m_left) return;
     show();
+    if (top > 0) Lvw_Files->scrollTo(m_files->index(top, 0), QAbstractItemView::PositionAtTop);
     for (const QString& message : PageWeight::Messages(sums)) {
         auto* row = new QTreeWidgetItem(Lvw_Message, {message});
         row->setIcon(0, Icons::Named(u"information"));
@@ -107,4 +126,5 @@ void Frm_SpeedCheck::Run() {
                       u"Die Seiten rufen sich gegenseitig auf. Die Berechnung wurde abgebrochen."_s,
                       Dialogs::Icon::Exclamation);
     }
+    if (alive) m_running = false;
 }
