@@ -12,7 +12,6 @@
 #include "state/neighbours.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QPointer>
 #include <QPushButton>
@@ -21,10 +20,6 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <utility>
-
-namespace {
-constexpr int EventPause = 20; // milliseconds between two runs of the pending events
-} // namespace
 
 Frm_SpeedCheck::Frm_SpeedCheck()
     : m_files(new FileListModel({u"Typ"_s, u"Datei"_s, u"Größe"_s}, this)), Lvw_Files(new QTreeView),
@@ -99,8 +94,7 @@ void Frm_SpeedCheck::Run() {
     Lvw_Message->clear();
     const QPointer<Frm_SpeedCheck> alive(this); // letting events run may end this window
     std::vector<FileListRow> rows;              // that wait to be shown
-    QElapsedTimer shown;
-    shown.start();
+    Events::Pace pace;
     const auto show = [&] { m_files->Add(std::exchange(rows, {})); };
     const PageWeight::Sums sums = PageWeight::Scan(
         Global::CurrentFile,
@@ -108,10 +102,9 @@ void Frm_SpeedCheck::Run() {
              rows.push_back({{u"src"_s, row.file, row.size}, row.link, row.path, {}, {}, {}, row.icon});
          },
          [&] {
-             if (shown.elapsed() < EventPause) return true;
+             if (!pace.IsDue()) return true;
              show();
-             Events::DoEvents();
-             shown.restart();
+             pace.LetEventsRun();
              return alive && !m_left;
          }});
     if (!alive || m_left) return;
