@@ -127,6 +127,7 @@ Answer QtHandler::Ask(const Message& message) {
     const WithoutSplash free;
     QuestionBox box(message, QtButtons(message.buttons), QApplication::activeWindow());
     box.setObjectName(u"MsgBox"_s);
+    if (message.title.isEmpty()) box.setWindowTitle(m_programName);
     box.setTextFormat(Qt::PlainText);
     if (message.buttons != Buttons::Ok) {
         box.setDefaultButton(message.preset == Answer::No ? QMessageBox::No : QMessageBox::Yes);

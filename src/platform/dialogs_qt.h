@@ -13,8 +13,9 @@ namespace Dialogs {
 class QtHandler : public Handler {
 public:
     // `startFolder` names the folder (system form) that file dialogs begin in; an empty answer means the last
-    // one.
-    explicit QtHandler(std::function<QString()> startFolder) : m_startFolder(std::move(startFolder)) {}
+    // one. `programName` is the title of messages without one.
+    QtHandler(std::function<QString()> startFolder, QString programName)
+        : m_startFolder(std::move(startFolder)), m_programName(std::move(programName)) {}
     Answer Ask(const Message& message) override;
     QString AskText(const QString& prompt, const QString& title, const QString& preset) override;
     QString ChooseOpenFile(const FileQuestion& question) override;
@@ -28,6 +29,7 @@ private:
     QString StartFolder() const;
 
     std::function<QString()> m_startFolder;
+    const QString m_programName;
     QString m_lastFolder; // system form
 };
 

@@ -22,6 +22,7 @@ Frm_PageInfo::Frm_PageInfo() : Lvw_Files(new QTreeWidget) {
     Lvw_Files->setObjectName(u"Lvw_Files"_s);
     Lvw_Files->setAccessibleName(heading->text());
     Lvw_Files->setHeaderLabels({u"Beschreibung"_s, u"Anzahl"_s, u"Größe"_s});
+    for (const int column : {1, 2}) Lvw_Files->headerItem()->setTextAlignment(column, Qt::AlignRight);
     Lvw_Files->setRootIsDecorated(false);
     Lvw_Files->header()->setStretchLastSection(false);
     Lvw_Files->header()->setSectionResizeMode(0, QHeaderView::Stretch);

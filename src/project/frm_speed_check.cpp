@@ -11,7 +11,7 @@
 #include "state/global.h"
 #include "state/neighbours.h"
 
-#include <QElapsedTimer>
+#include <QApplication>
 #include <QHeaderView>
 #include <QPointer>
 #include <QPushButton>
@@ -19,10 +19,7 @@
 #include <QTreeView>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-
-namespace {
-constexpr int EventPause = 20; // milliseconds between two runs of the pending events
-} // namespace
+#include <utility>
 
 Frm_SpeedCheck::Frm_SpeedCheck()
     : m_files(new FileListModel({u"Typ"_s, u"Datei"_s, u"Größe"_s}, this)), Lvw_Files(new QTreeView),
@@ -34,8 +31,10 @@ Frm_SpeedCheck::Frm_SpeedCheck()
     Lvw_Files->setModel(m_files);
     Lvw_Files->setRootIsDecorated(false);
     Lvw_Files->setUniformRowHeights(true);
+    Lvw_Files->setTextElideMode(Qt::ElideMiddle); // the names of deep frames stand behind a long indentation
     Lvw_Files->header()->setStretchLastSection(false);
     Lvw_Files->header()->setSectionResizeMode(1, QHeaderView::Stretch);
+    Lvw_Files->header()->resizeSection(2, fontMetrics().horizontalAdvance(u"999999999999 kB"_s));
     Lvw_Message->setHeaderLabel(u"Meldung"_s);
     Lvw_Message->setRootIsDecorated(false);
     Lvw_Message->setObjectName(u"Lvw_Message"_s);
@@ -67,7 +66,20 @@ void Frm_SpeedCheck::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) QTimer::singleShot(0, this, &Frm_SpeedCheck::Run);
 }
 
+// Who comes back from another program, where he may have made a picture smaller, sees the new sizes. A
+// message of the run itself must not begin the next one.
+bool Frm_SpeedCheck::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked) m_repeats = false;
+    if (event->type() == QEvent::WindowDeactivate) m_repeats = QApplication::activeModalWidget() == this;
+    if (event->type() == QEvent::WindowActivate && std::exchange(m_repeats, false)) {
+        QTimer::singleShot(0, this, &Frm_SpeedCheck::Run);
+    }
+    return QDialog::event(event);
+}
+
 void Frm_SpeedCheck::Run() {
+    if (m_running || m_left) return;
+    m_running = true;
     if (Global::AssistantOpen) {
         Neighbours::RunAnimation(
             1,
@@ -77,12 +89,12 @@ void Frm_SpeedCheck::Run() {
             "Ladezeit "
             "dieser Seite für verschiedene Verbindungen."_s);
     }
+    const int top = Lvw_Files->indexAt({}).row(); // where the user was reading
     m_files->Clear();
     Lvw_Message->clear();
     const QPointer<Frm_SpeedCheck> alive(this); // letting events run may end this window
     std::vector<FileListRow> rows;              // that wait to be shown
-    QElapsedTimer shown;
-    shown.start();
+    Events::Pace pace;
     const auto show = [&] { m_files->Add(std::exchange(rows, {})); };
     const PageWeight::Sums sums = PageWeight::Scan(
         Global::CurrentFile,
@@ -90,14 +102,14 @@ void Frm_SpeedCheck::Run() {
              rows.push_back({{u"src"_s, row.file, row.size}, row.link, row.path, {}, {}, {}, row.icon});
          },
          [&] {
-             if (shown.elapsed() < EventPause) return true;
+             if (!pace.IsDue()) return true;
              show();
-             Events::DoEvents();
-             shown.restart();
+             pace.LetEventsRun();
              return alive && !m_left;
          }});
     if (!alive || m_left) return;
     show();
+    if (top > 0) Lvw_Files->scrollTo(m_files->index(top, 0), QAbstractItemView::PositionAtTop);
     for (const QString& message : PageWeight::Messages(sums)) {
         auto* row = new QTreeWidgetItem(Lvw_Message, {message});
         row->setIcon(0, Icons::Named(u"information"));
@@ -107,4 +119,5 @@ void Frm_SpeedCheck::Run() {
                       u"Die Seiten rufen sich gegenseitig auf. Die Berechnung wurde abgebrochen."_s,
                       Dialogs::Icon::Exclamation);
     }
+    if (alive) m_running = false;
 }

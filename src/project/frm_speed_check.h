@@ -21,11 +21,14 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     void Run();
 
     bool m_left = false;
+    bool m_running = false;
+    bool m_repeats = false; // coming back to the window counts anew
     FileListModel* const m_files;
     QTreeView* const Lvw_Files;
     QTreeWidget* const Lvw_Message;

@@ -44,16 +44,13 @@ private:
             m_sums.cyclic = true;
             return false;
         }
-        // A page that cannot be loaded leaves the text of the one before it, which is searched under its
-        // path; only once, since the link to that page would be found in it for ever.
-        const auto page = DocumentFile::Load(path);
-        if (page) m_text = page->text;
-        if (!page && std::exchange(m_searchedAgain, true)) {
+        // Also on the way down, where no link is done with yet.
+        if (!GoesOn()) return false;
+        if (!Load(path)) {
             --m_level;
             return true;
         }
-        if (page) m_searchedAgain = false;
-        m_sums.comments += CommentCharacters(m_text);
+        m_sums.comments = CommentCharacters(m_text, m_sums.comments);
         const QString folder = path.first(path.lastIndexOf(u'\\') + 1);
         const LinkList list = FindLinks(m_text, {LinkMarker::Src, LinkMarker::Background});
         QString extension;
@@ -67,7 +64,7 @@ private:
                 ++m_level;
                 if (!ScanPage(full, depth + 1)) return false;
             }
-            if (m_listener.goOn && !m_listener.goOn()) return false;
+            if (!GoesOn()) return false;
         }
         if (list.cutShort) {
             Dialogs::Tell({}, u"Unerwarteter Fehler."_s, Dialogs::Icon::None);
@@ -75,6 +72,21 @@ private:
             --m_level; // behind a page that is cut short the rows stay one step further in; that is meant
         }
         return true;
+    }
+
+    bool GoesOn() const { return !m_listener.goOn || m_listener.goOn(); }
+
+    // Returns whether m_text is to be searched. A page that cannot be loaded leaves the text of the one
+    // before it, which is searched under its path; only once, since the link to that page would be found in
+    // it for ever. The text is held here alone, so that pages that wait for their frames keep but their
+    // links.
+    bool Load(const QString& path) {
+        if (auto page = DocumentFile::Load(path)) {
+            m_text = std::move(page->text);
+            m_searchedAgain = false;
+            return true;
+        }
+        return !std::exchange(m_searchedAgain, true);
     }
 
     void Add(const QString& full, const QString& link, const QString& extension) {
@@ -103,20 +115,20 @@ private:
 
 Sums Scan(const QString& path, const Listener& listener) { return WeightScan(listener).Run(path); }
 
-float CommentCharacters(const QString& text) {
-    float count = 0;
+float CommentCharacters(const QString& text, float before) {
+    float count = before;
     Text::Finder comment(text, u"<!--");
     Text::Finder closing(text, u"-->");
     for (qsizetype i = comment.From(1); i > 0; i = comment.From(i + 1)) {
         const qsizetype tag = i > 1 ? Text::FindBack(text, u"<", i - 1) : 0;
-        const QStringView before = QStringView(text).sliced(std::max<qsizetype>(tag - 1, 0));
-        if (tag > 0 && (before.startsWith(u"<STYLE", Qt::CaseInsensitive) ||
-                        before.startsWith(u"<SCRIPT", Qt::CaseInsensitive))) {
+        const QStringView opening = QStringView(text).sliced(std::max<qsizetype>(tag - 1, 0));
+        if (tag > 0 && (opening.startsWith(u"<STYLE", Qt::CaseInsensitive) ||
+                        opening.startsWith(u"<SCRIPT", Qt::CaseInsensitive))) {
             continue;
         }
         const qsizetype end = closing.From(i);
         if (end == 0) break;
-        count += static_cast<float>(end + 3 - i);
+        count = static_cast<float>(static_cast<double>(count) + static_cast<double>(end + 3 - i));
     }
     return count;
 }

@@ -19,7 +19,7 @@ struct Row {
 // What a scan calls.
 struct Listener {
     std::function<void(const Row&)> addRow;
-    // Behind each link; false ends the scan.
+    // Before each page and behind each link; false ends the scan.
     std::function<bool()> goOn;
 };
 
@@ -36,9 +36,10 @@ inline constexpr int Deepest = 1000;
 // an end is told in a message and ends the search of its page.
 Sums Scan(const QString& path, const Listener& listener);
 
-// Characters in the comments of `text`. One right behind the opening tag of a script or a style does not
-// count; one inside another counts again, up to the same end. Both are meant.
-float CommentCharacters(const QString& text);
+// `before` and the characters in the comments of `text`, added one by one. A comment right behind the opening
+// tag of a script or a style does not count; one inside another counts again, up to the same end. Both are
+// meant.
+float CommentCharacters(const QString& text, float before = 0);
 
 // The lines of the result: sizes in whole kB, times in whole seconds.
 QStringList Messages(const Sums& sums);

@@ -105,10 +105,12 @@ int Main(int argc, char** argv) {
     SpeakGerman(application);
     TellEngineOfDarkPalette();
     ConnectClipboard();
-    Dialogs::QtHandler dialogs([] {
-        return Global::CurrentFile.isEmpty() ? QString()
-                                             : Files::ToSystem(Global::ParentPath(Global::CurrentFile));
-    });
+    Dialogs::QtHandler dialogs(
+        [] {
+            return Global::CurrentFile.isEmpty() ? QString()
+                                                 : Files::ToSystem(Global::ParentPath(Global::CurrentFile));
+        },
+        Global::ProgramName);
     Dialogs::Install(&dialogs);
     Wiring::WireWindows();
 

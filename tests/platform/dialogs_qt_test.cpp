@@ -14,7 +14,7 @@ using namespace Dialogs;
 class DialogsQt : public QObject {
     Q_OBJECT
 
-    QtHandler m_handler{[] { return QString(); }};
+    QtHandler m_handler{[] { return QString(); }, u"Programm"_s};
 
 private slots:
     // The answer by Esc and by the frame's X; a question without a third one stays.
@@ -44,15 +44,16 @@ private slots:
         bool covered = true;
         Driver::InModal(u"MsgBox"_s, [&](QWidget* box) {
             covered = splash.isVisible();
+            QCOMPARE(box->windowTitle(), u"Programm"_s); // of a message without a title
             box->close();
         });
-        m_handler.Ask({u"Titel"_s, u"Text"_s, Icon::Critical, Buttons::Ok, Answer::Ok});
+        m_handler.Ask({{}, u"Text"_s, Icon::Critical, Buttons::Ok, Answer::Ok});
         QVERIFY(!covered && splash.isVisible());
     }
 
     void addsTheExtensionOfTheChosenGroup() {
         const QTemporaryDir folder;
-        QtHandler handler([&] { return folder.path(); });
+        QtHandler handler([&] { return folder.path(); }, {});
         for (const auto& [typed, group, path] : {std::tuple(u"seite"_s, 0, u"seite.htm"_s),
                                                  {u"seite"_s, 1, u"seite.css"_s},
                                                  {u"seite"_s, 2, u"seite"_s}, // all files
