@@ -5,12 +5,16 @@
 #include "project/ftp.h"
 #include "state/global.h"
 #include "state/settings.h"
+#include "support/ftp_server.h"
 #include "support/program_test.h"
 
 #include <QCheckBox>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QTextBlock>
+#include <QTimer>
 #include <QTreeView>
 
 class UploadAssistantTest : public ProgramTest {
@@ -19,10 +23,15 @@ class UploadAssistantTest : public ProgramTest {
     // Opens the window for web\index.htm and runs `inside` in it as soon as the files have been found.
     void In(std::function<void(QWidget*)> inside) {
         Documents::OpenFile(m_folder->Path(u"web/index.htm"_s));
+        QTimer found; // looks from time to time, since a look out of the search would hold it up
         Driver::InModal(u"Frm_UploadAssistant"_s, [&](QWidget* window) {
-            QTRY_VERIFY(Driver::Find<QAbstractButton>(u"Cmd_Control_0"_s)->isEnabled());
-            inside(window);
-            if (window->isVisible()) QTest::keyClick(window, Qt::Key_Escape);
+            connect(&found, &QTimer::timeout, window, [&, window = QPointer(window)] {
+                if (!Driver::Find<QAbstractButton>(u"Cmd_Control_0"_s)->isEnabled()) return;
+                found.stop();
+                inside(window);
+                if (window && window->isVisible()) QTest::keyClick(window, Qt::Key_Escape);
+            });
+            found.start(1);
         });
         Driver::Trigger(u"Menu_File_UploadAssistant"_s);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -35,7 +44,7 @@ class UploadAssistantTest : public ProgramTest {
     }
     static void LogIn(const QString& address, const QString& password) {
         Fill(u"Txt_Address"_s, address);
-        Fill(u"Txt_UserName"_s, u"anna"_s);
+        Fill(u"Txt_UserName"_s, u"garten"_s);
         Fill(u"Txt_Password"_s, password);
         Driver::Click(u"Cmd_Control_0"_s);
     }
@@ -58,6 +67,10 @@ class UploadAssistantTest : public ProgramTest {
         for (int row = 0; row < list->rowCount(); ++row) files << list->index(row, 1).data().toString();
         return files;
     }
+    static QString ColorOfLine(int line) {
+        const auto* log = Driver::Find<QPlainTextEdit>(u"Txt_Status"_s)->document();
+        return log->findBlockByNumber(line).textFormats().constFirst().format.foreground().color().name();
+    }
     static QString Log() { return Driver::Find<QPlainTextEdit>(u"Txt_Status"_s)->toPlainText(); }
 
 private slots:
@@ -66,7 +79,7 @@ private slots:
         m_folder->Write(u"web/index.htm"_s, "-//W3C//DTD HTML\r\n<a href=\"sub/a.htm\"><img src=\"../b.png\">"
                                             "<img src=\"c.png\"><a href=\"http://example.org/x.htm\">");
         m_folder->Write(u"web/sub/a.htm"_s, "<a href=\"../index.htm\">");
-        m_folder->Write(u"web/c.png"_s, QByteArray(3000, 'c'));
+        m_folder->Write(u"web/c.png"_s, QByteArray(2048, 'c'));
         m_folder->Write(u"b.png"_s, "b");
         FTP::FtpPassword.clear();
     }
@@ -80,10 +93,10 @@ private slots:
         });
         QVERIFY(Settings::WriteSettings());
         const QByteArray stored = m_folder->Read(u"edit.ini"_s);
-        QVERIFY(stored.contains("FTP_Address=ftp.example.org\r\nFTP_UserName=anna\r\n"));
+        QVERIFY(stored.contains("FTP_Address=ftp.example.org\r\nFTP_UserName=garten\r\n"));
         QVERIFY(!stored.contains("geheim"));
         In([](QWidget*) {
-            QCOMPARE(Text(u"Txt_Address"_s) + Text(u"Txt_UserName"_s), u"ftp.example.organna"_s);
+            QCOMPARE(Text(u"Txt_Address"_s) + Text(u"Txt_UserName"_s), u"ftp.example.orggarten"_s);
             QCOMPARE(Text(u"Txt_Password"_s), u"geheim"_s);
             QVERIFY(Driver::Find<QLineEdit>(u"Txt_Password"_s)->displayText() != u"geheim"_s);
             Driver::Click(u"Chk_SaveData"_s); // both were ticked
@@ -130,11 +143,56 @@ private slots:
             Driver::Click(u"Cmd_Control_0"_s);
             QCOMPARE(State(), u"2 - S&chließen < &Zurück"_s);
             QCOMPARE(Log(), u"Verbinde mit Server...\n! Fehler beim Verbindungsaufbau.\n"_s);
+            QCOMPARE(ColorOfLine(0) + ColorOfLine(1), u"#000099#990000"_s);
             Driver::Click(u"Cmd_Control_2"_s);
             QCOMPARE(State(), u"1 F&ertigstellen S&chließen < &Zurück"_s);
             Driver::Click(u"Cmd_Control_2"_s);
             QCOMPARE(State(), u"0 &Weiter > S&chließen -"_s);
         });
+    }
+
+    void sendsWhatIsListed() {
+        FtpServer server;
+        m_dialogs->ExpectBeep();
+        In([&](QWidget*) {
+            LogIn(server.Address(), u"beet"_s);
+            Fill(u"Txt_Path"_s, u"neu\\web"_s);
+            Driver::Click(u"Chk_SubFiles"_s);
+            Driver::Click(u"Cmd_Control_0"_s);
+            QCOMPARE(State(), u"2 - S&chließen -"_s);
+            QCOMPARE(ColorOfLine(1), u"#009900"_s);
+            const QStringList lines = Log().split(u'\n');
+            QCOMPARE(lines.mid(0, 4),
+                     (QStringList{u"Verbinde mit Server..."_s, u"> Verbindung erfolgreich abgeschlossen."_s,
+                                  u"Erstelle Ordner '/neu/web'..."_s, u"> Ordner erstelt."_s}));
+            QCOMPARE(lines.mid(lines.size() - 4),
+                     (QStringList{u"Kopiere Datei 'c.png' (2 kB)..."_s, u"> Kopiervorgang erfolgreich."_s,
+                                  u"Upload abgeschlossen."_s, QString()}));
+        });
+        QMap<QString, QByteArray> sent{{u"/neu/"_s, {}}, {u"/neu/web/"_s, {}}, {u"/neu/web/sub/"_s, {}}};
+        for (const QString& file : {u"index.htm"_s, u"sub/a.htm"_s, u"c.png"_s})
+            sent[u"/neu/web/"_s + file] = m_folder->Read(u"web/"_s + file);
+        QCOMPARE(server.Tree(), sent);
+    }
+
+    // Left while the server is waited for, it is gone at once: no line, no beep, nothing sent.
+    void endsWithItsWindow() {
+        FtpServer server({u"--mute"_s, u"STOR"_s});
+        QElapsedTimer left;
+        QTimer watch;
+        In([&](QWidget* window) {
+            LogIn(server.Address(), u"beet"_s);
+            connect(&watch, &QTimer::timeout, window, [&, window] {
+                if (!Log().contains(u"Kopiere Datei")) return;
+                watch.stop();
+                left.start();
+                QTest::keyClick(window, Qt::Key_Escape);
+            });
+            watch.start(10);
+            Driver::Click(u"Cmd_Control_0"_s);
+            QVERIFY(left.isValid() && !left.hasExpired(2000));
+        });
+        QCOMPARE(server.Tree(), (QMap<QString, QByteArray>()));
     }
 
     // Neither Enter held down nor a double click runs on into the upload.
@@ -146,11 +204,15 @@ private slots:
                 QCoreApplication::sendEvent(target, &key);
             };
             press(Driver::FindControl(u"Txt_Address"_s), false);
-            press(Driver::FindControl(u"Txt_Path"_s), true);
-            press(button, true);
-            press(window, true);
+            const QString filesStep = u"1 F&ertigstellen S&chließen < &Zurück"_s;
+            for (QWidget* target :
+                 {Driver::FindControl(u"Txt_Path"_s), static_cast<QWidget*>(button), window}) {
+                press(target, true);
+                QCOMPARE(State(), filesStep);
+            }
             QTest::mouseDClick(button, Qt::LeftButton);
-            QCOMPARE(State(), u"1 F&ertigstellen S&chließen < &Zurück"_s);
+            QTest::mouseRelease(button, Qt::LeftButton);
+            QCOMPARE(State(), filesStep);
         });
     }
 };
