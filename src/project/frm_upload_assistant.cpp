@@ -13,6 +13,7 @@
 #include "state/global.h"
 #include "state/neighbours.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QHeaderView>
@@ -71,11 +72,8 @@ QColor ColorOf(UploadRun::Kind kind) {
     }
 }
 
-// A key held down must not run through the steps and start the upload.
-bool IsHeldEnter(const QEvent* event) {
-    if (event->type() != QEvent::KeyPress) return false;
-    const auto* press = static_cast<const QKeyEvent*>(event);
-    return press->isAutoRepeat() && (press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter);
+bool IsEnter(const QKeyEvent* event) {
+    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
 }
 
 template<class Control> Control* Named(Control* control, const QString& name) {
@@ -211,7 +209,7 @@ void Frm_UploadAssistant::MakeButtons() {
     Cmd_Control[1] = AddControl(1, u"S&chließen"_s, [this] { reject(); });
     for (QPushButton* button : Cmd_Control)
         button->setAutoDefault(true); // Enter means the one with the focus
-    for (QPushButton* button : findChildren<QPushButton*>()) button->installEventFilter(this);
+    qApp->installEventFilter(this);
     Cmd_Control[0]->setEnabled(false); // until the files have been found
 }
 
@@ -242,8 +240,15 @@ void Frm_UploadAssistant::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) QTimer::singleShot(0, this, &Frm_UploadAssistant::Activate);
 }
 
-void Frm_UploadAssistant::keyPressEvent(QKeyEvent* event) {
-    if (!IsHeldEnter(event)) ToolDialog::keyPressEvent(event);
+// A key held down must not run through the steps and start the upload. On X11 it comes as releases and
+// presses of the same instant, not all of which Qt tells from those of a person.
+bool Frm_UploadAssistant::IsHeldEnter(const QEvent* event) {
+    const bool press = event->type() == QEvent::KeyPress;
+    if (!press && event->type() != QEvent::KeyRelease) return false;
+    const auto* key = static_cast<const QKeyEvent*>(event);
+    if (!IsEnter(key)) return false;
+    if (!press) m_enterReleased = key->timestamp();
+    return press && (key->isAutoRepeat() || (m_enterReleased != 0 && key->timestamp() == m_enterReleased));
 }
 
 bool Frm_UploadAssistant::eventFilter(QObject* watched, QEvent* event) {

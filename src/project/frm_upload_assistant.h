@@ -26,7 +26,6 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -36,6 +35,7 @@ private:
     void MakeButtons();
     void OrderTabs();
 
+    bool IsHeldEnter(const QEvent* event);
     void Activate();
     void ShowWizardStep();
     void Next();
@@ -53,6 +53,7 @@ private:
 
     int WizardStep = 1;
     bool m_left = false;
+    quint64 m_enterReleased = 0; // when, in the time of events
     FileListModel* const m_files;
     std::array<QPushButton*, 3> Cmd_Control{};
     QStackedWidget* Frm_Step;

@@ -210,6 +210,12 @@ private slots:
                 press(target, true);
                 QCOMPARE(State(), filesStep);
             }
+            for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) { // as X11 may send it
+                QKeyEvent key(type, Qt::Key_Return, Qt::NoModifier, u"\r"_s);
+                key.setTimestamp(1000);
+                QCoreApplication::sendEvent(button, &key);
+            }
+            QCOMPARE(State(), filesStep);
             QTest::mouseDClick(button, Qt::LeftButton);
             QTest::mouseRelease(button, Qt::LeftButton);
             QCOMPARE(State(), filesStep);
