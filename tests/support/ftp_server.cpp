@@ -7,15 +7,18 @@
 #include <QFile>
 
 FtpServer::FtpServer(const QStringList& arguments) {
+    // Into a file: a pipe that nobody reads would stop the server.
+    m_process.setStandardOutputFile(m_log.filePath(u"log"_s));
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.start(u"/usr/bin/python3"_s,
                     QStringList{QStringLiteral(SORVANE_SOURCE_DIR "/tests/support/ftp_server.py"), Root()} +
                         arguments);
     constexpr int Patience = 20'000;
-    while (!m_process.canReadLine() && m_process.waitForReadyRead(Patience)) {
+    constexpr int Step = 5;
+    for (int waited = 0; waited < Patience && Lines().size() < 2 && !m_process.waitForFinished(Step);
+         waited += Step) {
     }
-    const QByteArray port = m_process.readLine().trimmed();
-    if (!port.isEmpty()) m_address = u"127.0.0.1:"_s + QString::fromLatin1(port);
+    if (Lines().size() > 1) m_address = u"127.0.0.1:"_s + Lines().first();
 }
 
 FtpServer::~FtpServer() {
@@ -23,12 +26,10 @@ FtpServer::~FtpServer() {
     m_process.waitForFinished();
 }
 
-QStringList FtpServer::Log() {
-    constexpr int Quiet = 50;
-    while (m_process.waitForReadyRead(Quiet)) {
-    }
-    m_log += m_process.readAllStandardOutput();
-    return QString::fromUtf8(m_log).split(u'\n', Qt::SkipEmptyParts);
+// The last one is not whole yet.
+QStringList FtpServer::Lines() const {
+    QFile log(m_log.filePath(u"log"_s));
+    return log.open(QIODevice::ReadOnly) ? QString::fromUtf8(log.readAll()).split(u'\n') : QStringList();
 }
 
 QMap<QString, QByteArray> FtpServer::Tree() const {

@@ -19,13 +19,15 @@ public:
     QString Address() const { return m_address; } // empty: it did not start
     QString Root() const { return m_root.path(); }
     // What it has told so far, a line each: "connection", "login <user>" and the commands.
-    QStringList Log();
+    QStringList Log() const { return Lines().mid(1); }
     // Its files, by their paths below the root, and its folders with "/" at their end.
     QMap<QString, QByteArray> Tree() const;
 
 private:
+    QStringList Lines() const;
+
     QTemporaryDir m_root;
+    QTemporaryDir m_log;
     QProcess m_process;
     QString m_address;
-    QByteArray m_log;
 };
