@@ -118,11 +118,17 @@ void FolderChooser::SetPath(const QString& path) {
 
 void FolderChooser::ShowPath() {
     const QString path = Files::ToSystem(Path());
-    Lbl_Path->setText(path);
+    Lbl_Path->setText(Lbl_Path->fontMetrics().elidedText(path, Qt::ElideMiddle, Lbl_Path->width()));
     Lbl_Path->setToolTip(path);
     const QString volume = QStorageInfo(path).rootPath();
     const int drive = Drv_Drive->findData(volume);
     if (drive >= 0) Drv_Drive->setCurrentIndex(drive);
+}
+
+void FolderChooser::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    layout()->activate();
+    ShowPath();
 }
 
 void FolderChooser::MakeNewFolder() {

@@ -21,6 +21,9 @@ public:
     QString Path() const;
     void SetPath(const QString& path);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void FillDrives();
     void ShowPath();

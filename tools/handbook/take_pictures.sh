@@ -7,11 +7,13 @@ set -eu
 here=$(cd "$(dirname "$0")/../.." && pwd)
 pictures=$here/data/support/bilder
 wanted=" $* "
-work=$(mktemp -d)
+work=$(mktemp -d /tmp/XXXXXXXX) # without a dot, for a second one in its path keeps a file out of a backup
+home=/home/anna                 # what the pictures show; below $work where it cannot be made
+mkdir "$home" 2>/dev/null || home=$work/anna
 started=()
 end() {
     kill -9 "${started[@]}" 2>/dev/null || true
-    rm -rf "$work"
+    rm -rf "$work" "$home"
 }
 trap end EXIT
 
@@ -23,6 +25,8 @@ openbox >/dev/null 2>&1 &
 started+=($!)
 cp -r "$here/build/release/bin" "$work/bin"
 cp -r "$here/examples/verein" "$work/verein"
+mkdir -p "$home/Bilder" "$home/Dokumente" "$home/Sicherungen/Verein 2026" "$home/Webseiten"
+export HOME=$home
 cat >"$work/bin/edit.ini" <<INI
 WindowState=2
 Assistant=False
@@ -96,6 +100,14 @@ dialog metatags "alt+e m" true
 dialog styleelement "alt+e e e" true
 dialog designs "alt+e e v" keys Down
 dialog speedcheck "alt+t c" true
+choose_folder() {
+    sleep 1
+    keys Tab Tab Tab Tab # to the tree
+    keys Right
+    sleep 1
+    keys Down Down Down
+}
+dialog projektbackup "alt+d p" choose_folder
 if is_wanted toolfenster; then
     keys alt+a Down Down Down Down Return
     for key in b t s e; do keys F6 alt+a $key; done
@@ -103,5 +115,15 @@ if is_wanted toolfenster; then
     sleep 1
     import -window root -crop 460x620+640+70 +repage "$pictures/toolfenster.png"
     echo data/support/bilder/toolfenster.png
+fi
+if is_wanted wap; then
+    kill -9 "${started[-1]}"
+    "$work/bin/sorvane" "$work/verein/wap/index.wml" >/dev/null 2>&1 &
+    started+=($!)
+    sleep 6
+    keys ctrl+shift+F5
+    sleep 5
+    import -window root -crop 720x300+0+0 +repage "$pictures/wap.png"
+    echo data/support/bilder/wap.png
 fi
 "$here/tools/handbook/chapters.py"
