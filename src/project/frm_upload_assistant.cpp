@@ -214,12 +214,10 @@ void Frm_UploadAssistant::MakeButtons() {
 }
 
 void Frm_UploadAssistant::OrderTabs() {
-    const QWidget* order[] = {Txt_Address, Txt_UserName,   Txt_Password,   Chk_SaveData,  Chk_SavePassword,
+    QWidget* const order[] = {Txt_Address, Txt_UserName,   Txt_Password,   Chk_SaveData,  Chk_SavePassword,
                               Txt_Path,    Chk_SubFiles,   Lvw_Files,      Cmd_LoadNew,   Cmd_RemoveFile,
                               Txt_Status,  Cmd_Control[0], Cmd_Control[1], Cmd_Control[2]};
-    for (size_t i = 1; i < std::size(order); ++i) {
-        setTabOrder(const_cast<QWidget*>(order[i - 1]), const_cast<QWidget*>(order[i]));
-    }
+    for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
 // --- the window's life -----------------------------------------------------------------------------------
