@@ -3,7 +3,6 @@
 
 #include "platform/dialogs.h"
 #include "platform/events.h"
-#include "platform/files.h"
 #include "platform/icons.h"
 #include "platform/literals.h"
 #include "platform/twips.h"
@@ -304,21 +303,18 @@ void Frm_UploadAssistant::LoadFiles() {
     Cmd_Control[0]->setEnabled(false);
     Cmd_LoadNew->setEnabled(false);
     const QPointer<Frm_UploadAssistant> alive(this); // letting events run may end this window
-    FillWithSite(*m_files, [this, &alive] { return alive && !m_left; });
+    const SiteScan::Result site = FillWithSite(*m_files, [this, &alive] { return alive && !m_left; });
     if (!alive || m_left) return;
-    RemoveOutsideFiles();
+    RemoveOutsideFiles(site);
     Cmd_LoadNew->setEnabled(true);
     Cmd_Control[0]->setEnabled(true);
 }
 
-// What lies above the page's folder has no place on the server. One step up, the folder shown does not tell.
-void Frm_UploadAssistant::RemoveOutsideFiles() {
-    const QString& page = Global::CurrentFile;
-    const QString inside = Files::ToSystem(page.first(page.lastIndexOf(u'\\') + 1));
+// What lies outside of the page's folder has no place on the server.
+void Frm_UploadAssistant::RemoveOutsideFiles(const SiteScan::Result& site) {
     std::vector<int> rows;
-    for (int row = 0; row < m_files->rowCount(); ++row) {
-        const FileListRow& file = m_files->Row(row);
-        if (file.cells[1].contains(u"../") || !file.tip.startsWith(inside)) rows.push_back(row);
+    for (size_t i = 0; i < site.files.size(); ++i) {
+        if (SiteScan::IsOutside(site.files[i], Global::CurrentFile)) rows.push_back(static_cast<int>(i));
     }
     m_files->Remove(std::move(rows));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "documents/tool_dialog.h"
+#include "project/site_scan.h"
 #include "project/upload_run.h"
 
 #include <array>
@@ -43,7 +44,7 @@ private:
     void KeepLogin();
     // Fills the list anew, which brings removed rows back.
     void LoadFiles();
-    void RemoveOutsideFiles();
+    void RemoveOutsideFiles(const SiteScan::Result& site);
     void RemoveFiles();
     QStringList Folders() const; // of the rows, as UploadRun takes them
     void Upload();
