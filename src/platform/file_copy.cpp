@@ -70,6 +70,14 @@ CopyResult CopyWithTimes(const QString& from, const QString& to, const std::func
     return CopyResult::Copied;
 }
 
+bool WriteScratch(const QString& path, const QByteArray& bytes) {
+    QFile file(ToSystem(path));
+    if (!file.open(QIODevice::WriteOnly)) return false;
+    if (file.write(bytes) == bytes.size() && file.flush()) return true;
+    file.remove();
+    return false;
+}
+
 bool FlushDisk(const QString& folder) {
 #ifdef Q_OS_LINUX
     const int handle = ::open(QFile::encodeName(ToSystem(folder)).constData(), O_RDONLY | O_DIRECTORY);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Copying of many files to another place.
+// Copying of many files to another place, without waiting for the disk at each of them.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <functional>
 
@@ -13,6 +14,9 @@ enum class CopyResult { Copied, Failed, Stopped };
 // `goOn` (may be empty) is asked behind each piece; where it says no, `to` is as it was before. The bytes are
 // not waited for until they are on the disk; FlushDisk() does that for many files at once.
 CopyResult CopyWithTimes(const QString& from, const QString& to, const std::function<bool()>& goOn = {});
+
+// Writes a file that nobody misses after a crash; on failure it is gone. Returns whether it worked.
+bool WriteScratch(const QString& path, const QByteArray& bytes);
 
 // Waits until all that was written to the disk of `folder` is on it. Returns whether the system says so; true
 // where it knows no such request.

@@ -73,11 +73,6 @@ QString TemporaryFile() {
     return Files::ProgramDirectory() + u"\\temp."_s + Global::ExtensionOf(Global::CurrentFile, u"htm"_s);
 }
 
-QString WAPStartPage() {
-    return WAPBrowser::ScratchFolder() + Global::StripExtension(Global::FileNameOf(Global::CurrentFile)) +
-           u"htm"_s;
-}
-
 void Menu_View_Browser_Once() {
     if (!SaveFirst() || !TestKind(Global::CurrentFile)) return;
     Say(u"Das ist die Vorschau der aktuellen Seite."_s);
@@ -111,7 +106,7 @@ void Menu_View_Browser_Temp() {
 void Menu_View_Browser_WAP() {
     if (!SaveFirst() || !TestKind(Global::CurrentFile)) return;
     if (!WAPBrowser::GenerateWAPPreview()) return;
-    Neighbours::Browse(WAPStartPage());
+    Neighbours::Browse(WAPBrowser::StartPage());
     Say(u"Das ist die Vorschau der aktuellen Seite mit einem WAP-Emulator."_s);
 }
 

@@ -10,8 +10,6 @@ namespace Preview {
 bool CanBeShown(const QString& path);
 // Path of the temporary copy of the current document.
 QString TemporaryFile();
-// Path of the page that stands for the current one in the converted copy of a WAP site.
-QString WAPStartPage();
 
 void Menu_View_Browser_Once();
 void Menu_View_Browser_Temp();

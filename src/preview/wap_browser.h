@@ -18,6 +18,9 @@ bool ConvertWmlFile(const QString& path);
 // Where the copies lie, with "\" at its end.
 QString ScratchFolder();
 
+// The page of the current document in the scratch folder.
+QString StartPage();
+
 // Copies and converts the site of the current document; files that cannot be copied or converted are passed
 // over. Events run in between. Returns whether the document is still the one that was converted.
 bool GenerateWAPPreview();

@@ -55,6 +55,7 @@ bool Frm_Main::Exit() {
     }
     if (write) Settings::WriteSettings();
     hide();
+    Global::DocOpen = false; // work on the document that runs under this call ends, and makes nothing anew
     const QString scratch = Files::ProgramDirectory() + u"\\tmp"_s;
     if (Files::FolderExists(scratch)) Files::MoveToTrash(scratch);
     for (const QString& name : Files::List(Files::ProgramDirectory(), {u"temp.*"_s})) {

@@ -27,6 +27,8 @@ private slots:
         row(u"title"_s, u"<wml><card title=\"Start\">Hallo</card></wml>"_s, u"<body>Hallo</body></html>"_s);
         row(u"several"_s, u"<wml><CARD>A</Card><card>B</card></wml>"_s, u"<body>A</body></html>"_s);
         row(u"without end"_s, u"<card id=\"a\">A<br/>"_s, u"<body>A<br/>"_s);
+        row(u"end with a blank"_s, u"<card>A</card ><card>B</card>"_s,
+            u"<body>A</card ><card>B</body></html>"_s);
         row(u"without bracket"_s, u"x<card"_s, u"<body>card"_s);
         row(u"links"_s, u"<card><a href=\"a.WmL\">x.wmls</a>$(x)<do/></card>"_s,
             u"<body><a href=\"a.htm\">x.htms</a>$(x)<do/></body></html>"_s);
@@ -43,7 +45,8 @@ private slots:
         m_folder->Write(u"web/a.wml"_s,
                         "<?xml version=\"1.0\" encoding=\"UTF-8\"?><wml><card><img src=\"p.wbmp\"/>"
                         "Gr\xC3\xBC\xC3\x9F"
-                        "e<a href=\"sub/B.WML\"/></card></wml>");
+                        "e<a href=\"sub/B.WML\"/><a href=\"a.html\"/></card></wml>");
+        m_folder->Write(u"web/a.html"_s, "<p>the same page's name</p>");
         m_folder->Write(u"web/sub/B.WML"_s,
                         "<wml><card>B <a href=\"../c.html\"/><a href=\"x/../../../d.gif\"/>");
         m_folder->Write(u"web/c.html"_s, "<p>c.wml</p>");
@@ -55,7 +58,7 @@ private slots:
         QVERIFY(m_folder->Read(u"tmp/a.htm"_s).startsWith("\xEF\xBB\xBF<!DOCTYPE"));
         QVERIFY(m_folder->Read(u"tmp/a.htm"_s)
                     .endsWith("<body><img src=\"p.wbmp\"/>Gr\xC3\xBC\xC3\x9F"
-                              "e<a href=\"sub/B.htm\"/></body></html>\r\n"));
+                              "e<a href=\"sub/B.htm\"/><a href=\"a.html\"/></body></html>\r\n"));
         QVERIFY(m_folder->Read(u"tmp/sub/B.htm"_s).contains("<body>B "));
         QCOMPARE(m_folder->Read(u"tmp/c.htm"_s), "<p>c.wml</p>\r\n");
         QCOMPARE(m_folder->Read(u"tmp/p.wbmp"_s), picture);
@@ -63,6 +66,17 @@ private slots:
                 !m_folder->Has(u"tmp/sub/B.WML"_s));
         QCOMPARE(m_folder->Read(u"d.gif"_s), "outside");
         QVERIFY(m_folder->Has(u"web/a.wml"_s));
+    }
+
+    // What an earlier run made of another document would be taken for this one.
+    void showsNoPageOfAnotherDocument() {
+        m_folder->Write(u"tmp/a.htm"_s, "old");
+        m_folder->Write(u"tmp/b.htm"_s, "old");
+        m_folder->Write(u"web/a.txt"_s, "no deck");
+        Global::CurrentFile = m_folder->Path(u"web/a.txt"_s);
+        Global::DocOpen = true;
+        QVERIFY(GenerateWAPPreview());
+        QVERIFY(!m_folder->Has(u"tmp/a.htm"_s) && m_folder->Has(u"tmp/b.htm"_s));
     }
 
     // The scratch folder's own files are somebody's page once they are opened.

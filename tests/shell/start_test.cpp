@@ -117,6 +117,7 @@ private slots:
         QCOMPARE(m_folder->Read(u"edit.ini"_s).contains("EventToolLeft=1155\r\nEventToolTop=1320"), possible);
         QCOMPARE(m_folder->Read(u"bckup.tmp"_s), possible ? QByteArray() : QByteArray("neu alt\r\n\r\n"));
         QVERIFY(!m_folder->Has(u"tmp"_s) && !m_folder->Has(u"temp.htm"_s));
+        QVERIFY(!Global::DocOpen); // so that work in progress on the document ends
     }
 
     // Nothing that the program speaks of by a name is answered by silence.
