@@ -45,14 +45,16 @@ void Convert(const SiteFile& file, const QString& root, const std::function<bool
     if (file.tag == u"Error") return;
     const QString target = SiteCopy::TargetOf(file, root, ScratchFolder());
     if (target.isEmpty() || Files::IsSameFile(file.tag, target)) return;
-    if (IsConverted(target)) {
-        const QString page = PagePathOf(target);
-        if (pages.contains(page)) return;
+    const QString page = IsConverted(target) ? PagePathOf(target) : QString();
+    const bool isTaken = pages.contains(page);
+    if (isTaken && (target == page || KindOf(target) == u"wml")) return;
+    if (!page.isEmpty() && !isTaken) {
         pages.insert(page);
         Files::Remove(page); // should this file fail, its page of an earlier run would be taken for it
     }
     FileManagement::MakeFullDirectory(Global::ParentPath(target));
-    if (Files::CopyWithTimes(file.tag, target, goOn) == Files::CopyResult::Copied) ConvertWmlFile(target);
+    const bool copied = Files::CopyWithTimes(file.tag, target, goOn) == Files::CopyResult::Copied;
+    if (copied && !isTaken) ConvertWmlFile(target);
 }
 
 // Takes away what an earlier run has made of another document of that name, unless the document itself lies

@@ -60,6 +60,7 @@ private slots:
                     .endsWith("<body><img src=\"p.wbmp\"/>Gr\xC3\xBC\xC3\x9F"
                               "e<a href=\"sub/B.htm\"/><a href=\"a.html\"/></body></html>\r\n"));
         QVERIFY(m_folder->Read(u"tmp/sub/B.htm"_s).contains("<body>B "));
+        QCOMPARE(m_folder->Read(u"tmp/a.html"_s), "<p>the same page's name</p>"); // links to it work
         QCOMPARE(m_folder->Read(u"tmp/c.htm"_s), "<p>c.wml</p>\r\n");
         QCOMPARE(m_folder->Read(u"tmp/p.wbmp"_s), picture);
         QVERIFY(!m_folder->Has(u"tmp/p.htm"_s) && !m_folder->Has(u"tmp/a.wml"_s) &&
