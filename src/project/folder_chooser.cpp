@@ -64,6 +64,7 @@ FolderChooser::FolderChooser(const QString& caption)
     Drv_Drive->setMinimumContentsLength(12);
     FillDrives();
     Lbl_Path->setObjectName(u"Lbl_Path"_s);
+    Lbl_Path->setTextFormat(Qt::PlainText);
     Lbl_Path->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* label = new QLabel(caption);
     label->setObjectName(u"Label2_0"_s);

@@ -68,8 +68,12 @@ Frm_ProjectBackUp::Frm_ProjectBackUp()
     AddControl(1, u"A&bbrechen"_s, [this] { reject(); });
     m_info = AddControl(2, u"&Info..."_s, [this] { ShowInfo(); });
     Open(false);
-    const bool there = !lastDestination.isEmpty() && Files::FolderExists(lastDestination);
-    m_folder->SetPath(there ? lastDestination : Files::FromSystem(QDir::homePath()));
+    for (const QString& folder :
+         {lastDestination, Files::FromSystem(QDir::homePath()), Files::FromSystem(QDir::rootPath())}) {
+        if (folder.isEmpty() || !Files::FolderExists(folder)) continue;
+        m_folder->SetPath(folder);
+        break;
+    }
     resize(800, 500);
 }
 

@@ -5,8 +5,10 @@
 #include "platform/file_copy.h"
 #include "platform/files.h"
 #include "platform/literals.h"
+#include "platform/text.h"
 #include "project/file_management.h"
 
+#include <QHash>
 #include <QSet>
 #include <algorithm>
 
@@ -16,22 +18,59 @@ namespace {
 
 bool IsCopied(const SiteFile& file) { return file.tag != u"Error"; }
 
-// The places on the disk of the files that are copied: none of them may be overwritten by another one.
+// The files that are copied, and their places on the disk: none of them may be overwritten by another one.
 class Sources {
 public:
     explicit Sources(const std::vector<SiteFile>& files) {
         for (const SiteFile& file : files) {
-            if (IsCopied(file)) m_places.insert(Files::Canonical(file.tag));
+            if (!IsCopied(file)) continue;
+            m_paths.insert(file.tag);
+            m_places.insert(Files::Canonical(file.tag));
         }
         m_places.remove({});
     }
+    bool Has(const QString& path) const { return m_paths.contains(path); }
     bool HasAnother(const QString& target, const QString& source) const {
         const QString place = Files::Canonical(target);
         return !place.isEmpty() && m_places.contains(place) && place != Files::Canonical(source);
     }
 
 private:
+    QSet<QString> m_paths;
     QSet<QString> m_places;
+};
+
+// The copies made. Two files may come out as one, as the tails of paths do, and on disks to which capitals
+// and small letters are the same.
+class Copies {
+public:
+    // Whether `target` is the copy of another file already.
+    bool Holds(const QString& target, const QString& source) const {
+        const auto made = m_byTarget.constFind(Text::LowerCase(target));
+        if (made == m_byTarget.cend()) return false;
+        const Copy& copy = m_copies[*made];
+        return Files::IsSameFile(copy.target, target) && !Files::IsSameFile(copy.source, source);
+    }
+    void Add(const QString& target, const QString& source) {
+        m_byTarget.insert(Text::LowerCase(target), m_copies.size());
+        m_copies.push_back({target, source});
+    }
+    // The sources of those that are no longer there, as when the folder was removed meanwhile.
+    QStringList Gone() const {
+        QStringList gone;
+        for (const Copy& copy : m_copies) {
+            if (!Files::SizeOf(copy.target)) gone.append(copy.source);
+        }
+        return gone;
+    }
+
+private:
+    struct Copy {
+        QString target;
+        QString source;
+    };
+    std::vector<Copy> m_copies;
+    QHash<QString, size_t> m_byTarget; // in small letters
 };
 
 } // namespace
@@ -49,14 +88,15 @@ Result CopyFiles(const std::vector<SiteFile>& files, const QString& root, const 
                  const Listener& listener) {
     Result result;
     const Sources sources(files);
+    Copies copies;
     QString folder; // made last
     for (size_t i = 0; i < files.size(); ++i) {
         if (listener.copying) listener.copying(static_cast<qsizetype>(i) + 1);
         const SiteFile& file = files[i];
         const QString& source = IsCopied(file) ? file.tag : file.path;
-        if (!Files::SizeOf(source)) continue;
+        if (!Files::MayBeThere(source) || (!IsCopied(file) && sources.Has(source))) continue;
         const QString target = IsCopied(file) ? TargetOf(file, root, destination) : QString();
-        if (target.isEmpty() || sources.HasAnother(target, source)) {
+        if (target.isEmpty() || sources.HasAnother(target, source) || copies.Holds(target, source)) {
             result.missed.append(source);
             continue;
         }
@@ -65,12 +105,16 @@ Result CopyFiles(const std::vector<SiteFile>& files, const QString& root, const 
         }
         const Files::CopyResult copied = Files::CopyWithTimes(source, target, listener.goOn);
         if (copied == Files::CopyResult::Failed) result.missed.append(source);
+        if (copied == Files::CopyResult::Copied) copies.Add(target, source);
         if (copied == Files::CopyResult::Stopped || (listener.goOn && !listener.goOn())) {
             result.stopped = true;
             return result;
         }
     }
-    result.onDisk = Files::FlushDisk(destination);
+    result.missed += copies.Gone();
+    const Files::CopyResult flushed = Files::FlushDisk(destination, listener.goOn);
+    result.stopped = flushed == Files::CopyResult::Stopped;
+    result.onDisk = flushed == Files::CopyResult::Copied;
     return result;
 }
 
