@@ -19,6 +19,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QTimer>
 #include <QTreeView>
@@ -27,7 +28,8 @@
 namespace {
 
 constexpr int WorkPanel = 3;
-constexpr int NameWidth = 170; // pixels
+constexpr int NameWidth = 170;     // pixels
+constexpr QSize FrameSize(20, 40); // of the window, pixels
 
 // The folder of the last backup, for as long as the program runs.
 QString lastDestination;
@@ -74,7 +76,7 @@ Frm_ProjectBackUp::Frm_ProjectBackUp()
         m_folder->SetPath(folder);
         break;
     }
-    resize(800, 500);
+    resize(QSize(800, 500).boundedTo(screen()->availableSize() - FrameSize));
 }
 
 void Frm_ProjectBackUp::OnUnload() {
