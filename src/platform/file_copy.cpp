@@ -8,11 +8,15 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
+#include <algorithm>
 #include <filesystem>
 
 #ifdef Q_OS_UNIX
 #include <cerrno>
+#include <chrono>
 #include <fcntl.h>
+#include <future>
+#include <thread>
 #include <unistd.h>
 #endif
 
@@ -22,19 +26,35 @@ namespace {
 
 constexpr qint64 PieceSize = 1 << 20; // bytes
 
+// As QFile has it: a path cut within a character has no other form, and the library's own turning throws at
+// it.
 std::filesystem::path NativePath(const QString& system) {
-    return std::filesystem::path(system.toStdU16String());
+#ifdef Q_OS_WIN
+    return std::filesystem::path(system.toStdWString());
+#else
+    return std::filesystem::path(QFile::encodeName(system).toStdString());
+#endif
 }
 
-// Copies what is left of `source`.
+bool IsHole(const QByteArray& piece) {
+    return piece.size() == PieceSize &&
+           std::all_of(piece.begin(), piece.end(), [](char byte) { return byte == 0; });
+}
+
+// Copies what is left of `source`; its holes stay holes, which take no room on the disk.
 CopyResult CopyPieces(QFile& source, QFile& target, const std::function<bool()>& goOn) {
+    bool hole = false;
     while (true) {
         const QByteArray piece = source.read(PieceSize);
         if (piece.isEmpty()) break;
-        if (target.write(piece) != piece.size()) return CopyResult::Failed;
+        hole = IsHole(piece);
+        const bool done = hole ? target.seek(target.pos() + PieceSize) : target.write(piece) == piece.size();
+        if (!done) return CopyResult::Failed;
         if (goOn && !goOn()) return CopyResult::Stopped;
     }
-    return source.error() == QFile::NoError && target.flush() ? CopyResult::Copied : CopyResult::Failed;
+    const bool done =
+        source.error() == QFile::NoError && target.flush() && (!hole || target.resize(target.pos()));
+    return done ? CopyResult::Copied : CopyResult::Failed;
 }
 
 // Not every file system keeps them, so it is no failure where one does not.
@@ -78,16 +98,28 @@ bool WriteScratch(const QString& path, const QByteArray& bytes) {
     return false;
 }
 
-bool FlushDisk(const QString& folder) {
+CopyResult FlushDisk(const QString& folder, const std::function<bool()>& goOn) {
 #ifdef Q_OS_LINUX
-    const int handle = ::open(QFile::encodeName(ToSystem(folder)).constData(), O_RDONLY | O_DIRECTORY);
-    if (handle < 0) return false;
-    const bool done = ::syncfs(handle) == 0 || errno == ENOSYS;
-    ::close(handle);
-    return done;
+    const int handle =
+        ::open(QFile::encodeName(ToSystem(folder)).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) return CopyResult::Failed;
+    // The request returns no sooner than it is done. A thread that touches nothing else waits for it, and is
+    // left behind by those who do not want to.
+    std::packaged_task<bool()> request([handle] {
+        const bool done = ::syncfs(handle) == 0 || errno == ENOSYS;
+        ::close(handle);
+        return done;
+    });
+    std::future<bool> done = request.get_future();
+    std::thread(std::move(request)).detach();
+    while (done.wait_for(std::chrono::milliseconds(5)) != std::future_status::ready) {
+        if (goOn && !goOn()) return CopyResult::Stopped;
+    }
+    return done.get() ? CopyResult::Copied : CopyResult::Failed;
 #else
     Q_UNUSED(folder)
-    return true;
+    Q_UNUSED(goOn)
+    return CopyResult::Copied;
 #endif
 }
 
@@ -96,8 +128,16 @@ bool IsSameFile(const QString& path, const QString& other) {
     return std::filesystem::equivalent(NativePath(ToSystem(path)), NativePath(ToSystem(other)), error);
 }
 
+bool MayBeThere(const QString& path) {
+    std::error_code error;
+    const auto status = std::filesystem::status(NativePath(ToSystem(path)), error);
+    if (error == std::errc::permission_denied) return true;
+    return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+}
+
 bool LiesWithin(const QString& path, const QString& folder) {
     const QString base = QDir::cleanPath(ToSystem(folder));
+    if (base.isEmpty()) return false;
     return QDir::cleanPath(ToSystem(path)).startsWith(base.endsWith(u'/') ? base : base + u'/');
 }
 

@@ -18,14 +18,20 @@ CopyResult CopyWithTimes(const QString& from, const QString& to, const std::func
 // Writes a file that nobody misses after a crash; on failure it is gone. Returns whether it worked.
 bool WriteScratch(const QString& path, const QByteArray& bytes);
 
-// Waits until all that was written to the disk of `folder` is on it. Returns whether the system says so; true
-// where it knows no such request.
-bool FlushDisk(const QString& folder);
+// Waits until all that was written to the disk of `folder` is on it, which may take minutes; `goOn` (may be
+// empty) is asked meanwhile, and where it says no the disk is left to itself (Stopped). Copied where the
+// system says that all is there, or knows no such request.
+CopyResult FlushDisk(const QString& folder, const std::function<bool()>& goOn = {});
 
 // Whether both paths lead to one file, links followed; false where one of them leads to nothing.
 bool IsSameFile(const QString& path, const QString& other);
 
-// Whether `path`, with its ".." steps taken, lies below `folder`. Symbolic links are not followed.
+// Whether there is something of that name that is no folder; true where a folder on the way keeps it from
+// sight.
+bool MayBeThere(const QString& path);
+
+// Whether `path`, with its ".." steps taken, lies below `folder`. Symbolic links are not followed. False
+// for an empty folder.
 bool LiesWithin(const QString& path, const QString& folder);
 
 } // namespace Files

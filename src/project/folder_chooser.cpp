@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFileSystemModel>
 #include <QLabel>
+#include <QScrollBar>
 #include <QStorageInfo>
 #include <QToolBar>
 #include <QTreeView>
@@ -64,6 +65,7 @@ FolderChooser::FolderChooser(const QString& caption)
     Drv_Drive->setMinimumContentsLength(12);
     FillDrives();
     Lbl_Path->setObjectName(u"Lbl_Path"_s);
+    Lbl_Path->setTextFormat(Qt::PlainText);
     Lbl_Path->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* label = new QLabel(caption);
     label->setObjectName(u"Label2_0"_s);
@@ -90,9 +92,25 @@ FolderChooser::FolderChooser(const QString& caption)
             [this] { SetPath(Files::FromSystem(Drv_Drive->currentData().toString())); });
     connect(Dir_FolderList->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &FolderChooser::ShowPath);
-    // the folders come in one after the other, and move the chosen one
-    connect(m_folders, &QFileSystemModel::directoryLoaded, this,
-            [this] { Dir_FolderList->scrollTo(Dir_FolderList->currentIndex()); });
+    FollowUntilTouched();
+}
+
+// The folders come in one after the other, are put in order later, and move the chosen one out of sight.
+// Where the user has looked for another one meanwhile, the tree stays as it is.
+void FolderChooser::FollowUntilTouched() {
+    const auto leave = [this] { m_follows = false; };
+    connect(m_folders, &QFileSystemModel::directoryLoaded, this, &FolderChooser::Follow);
+    connect(m_folders, &QFileSystemModel::layoutChanged, this, &FolderChooser::Follow);
+    connect(Dir_FolderList, &QTreeView::expanded, this, leave);
+    connect(Dir_FolderList, &QTreeView::collapsed, this, leave);
+    connect(Dir_FolderList, &QTreeView::pressed, this, leave);
+    connect(Dir_FolderList->verticalScrollBar(), &QScrollBar::actionTriggered, this, leave);
+}
+
+void FolderChooser::Follow() {
+    if (!m_follows) return;
+    Dir_FolderList->scrollTo(Dir_FolderList->currentIndex());
+    m_follows = true; // though that may have opened folders
 }
 
 void FolderChooser::FillDrives() {
@@ -113,7 +131,8 @@ void FolderChooser::SetPath(const QString& path) {
     const QModelIndex folder = m_folders->index(Files::ToSystem(path));
     Dir_FolderList->setCurrentIndex(folder);
     Dir_FolderList->expand(folder);
-    Dir_FolderList->scrollTo(folder);
+    m_follows = true;
+    Follow();
 }
 
 void FolderChooser::ShowPath() {

@@ -28,9 +28,12 @@ private:
     void FillDrives();
     void ShowPath();
     void MakeNewFolder();
+    void Follow();
+    void FollowUntilTouched();
 
     QFileSystemModel* const m_folders;
     QTreeView* const Dir_FolderList;
     QComboBox* const Drv_Drive;
     QLabel* const Lbl_Path;
+    bool m_follows = false; // the chosen folder is kept in sight
 };

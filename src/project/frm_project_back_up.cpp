@@ -19,6 +19,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QTimer>
 #include <QTreeView>
@@ -27,7 +28,8 @@
 namespace {
 
 constexpr int WorkPanel = 3;
-constexpr int NameWidth = 170; // pixels
+constexpr int NameWidth = 170;     // pixels
+constexpr QSize FrameSize(20, 40); // of the window, pixels
 
 // The folder of the last backup, for as long as the program runs.
 QString lastDestination;
@@ -68,9 +70,13 @@ Frm_ProjectBackUp::Frm_ProjectBackUp()
     AddControl(1, u"A&bbrechen"_s, [this] { reject(); });
     m_info = AddControl(2, u"&Info..."_s, [this] { ShowInfo(); });
     Open(false);
-    const bool there = !lastDestination.isEmpty() && Files::FolderExists(lastDestination);
-    m_folder->SetPath(there ? lastDestination : Files::FromSystem(QDir::homePath()));
-    resize(800, 500);
+    for (const QString& folder :
+         {lastDestination, Files::FromSystem(QDir::homePath()), Files::FromSystem(QDir::rootPath())}) {
+        if (folder.isEmpty() || !Files::FolderExists(folder)) continue;
+        m_folder->SetPath(folder);
+        break;
+    }
+    resize(QSize(800, 500).boundedTo(screen()->availableSize() - FrameSize));
 }
 
 void Frm_ProjectBackUp::OnUnload() {

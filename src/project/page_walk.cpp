@@ -5,6 +5,7 @@
 #include "documents/document_file.h"
 #include "documents/paths.h"
 #include "platform/dialogs.h"
+#include "platform/file_copy.h"
 #include "platform/files.h"
 #include "platform/literals.h"
 
@@ -19,19 +20,27 @@ bool IsBadName(const QString& name) {
                        [](QChar c) { return c < u' ' || u"?*:<>|\""_s.contains(c); });
 }
 
+// Bytes. What is larger is no page, whatever its name; its text and what is made of it would fill the memory.
+constexpr qint64 LargestPage = 100'000'000;
+
 } // namespace
 
 PageLoader::Loading PageLoader::Load(const QString& path) {
+    if (Files::SizeOf(path).value_or(0) > LargestPage) return Loading::Failed;
     if (const auto document = DocumentFile::Load(path)) {
         m_text = document->text;
         m_title.reset();
         m_links.reset();
         return Loading::Loaded;
     }
+    return IsMissing(path) ? Loading::Missing : Loading::Failed;
+}
+
+bool PageLoader::IsMissing(const QString& path) {
+    if (Files::MayBeThere(path)) return false;
     Files::ReadError error = Files::ReadError::None;
     Files::Read(path, &error);
-    const bool missing = error == Files::ReadError::FileNotFound && !IsBadName(Global::FileNameOf(path));
-    return missing ? Loading::Missing : Loading::Failed;
+    return error == Files::ReadError::FileNotFound && !IsBadName(Global::FileNameOf(path));
 }
 
 const QString& PageLoader::Title() {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// How a scan goes through the pages of a site. As with a text control, a file that cannot be loaded leaves the
-// text of the one before it in place, and that text is searched under the new path.
+// How a scan goes through the pages of a site. As with a text control, a file that cannot be loaded leaves
+// the text of the one before it in place, and that text is searched under the new path.
 #pragma once
 
 #include "documents/link_list.h"
@@ -29,6 +29,8 @@ public:
     explicit PageLoader(std::vector<LinkMarker> markers) : m_markers(std::move(markers)) {}
 
     Loading Load(const QString& path);
+    // Whether Load() would say that of the file.
+    static bool IsMissing(const QString& path);
     // The title of the text loaded last.
     const QString& Title();
     // Its links. Shared, so that a page that waits for those it links to keeps its links alone.

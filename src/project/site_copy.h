@@ -19,7 +19,7 @@ QString TargetOf(const SiteFile& file, const QString& root, const QString& desti
 
 struct Listener {
     std::function<void(qsizetype number)> copying; // from 1, before each file
-    std::function<bool()> goOn;                    // behind each piece of a file; false ends the copying
+    std::function<bool()> goOn;                    // often, also within a file; false ends the copying
 };
 
 struct Result {

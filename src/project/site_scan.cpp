@@ -8,6 +8,7 @@
 #include "platform/text.h"
 #include "project/page_walk.h"
 
+#include <QHash>
 #include <QSet>
 #include <algorithm>
 #include <initializer_list>
@@ -53,6 +54,20 @@ QString PageIcon(const QString& type) {
     return IsOneOf(type, {u"WML", u"CSS", u"VBS", u"JS"}) ? type : QString();
 }
 
+// With one separator where there are several, behind what `path` shares with `folder`: "/a.htm" within a page
+// is glued to the page's folder, and by one separator more each time the site would come up again and again.
+QString WithSingleSeparators(QString path, const QString& folder) {
+    const auto isSecond = [](QChar a, QChar b) { return a == u'\\' && b == u'\\'; };
+    const auto end = path.begin() + std::min(path.size(), folder.size());
+    const auto behind = std::mismatch(path.begin(), end, folder.begin()).first;
+    path.erase(std::unique(behind, path.end(), isSecond), path.end());
+    return path;
+}
+
+// As many names of one page are searched. Where folders lead into themselves by symbolic links it has names
+// without end.
+constexpr int MostNames = 40;
+
 class Run {
 public:
     Run(const QString& root, const Listener& listener)
@@ -62,7 +77,8 @@ public:
         m_result.sums[Pages] = {static_cast<double>(Files::SizeOf(m_root).value_or(0)), 1};
         CollectBackupFiles(m_root);
         while (!m_pages.IsDone()) {
-            if (FollowNextLink() && m_listener.goOn && !m_listener.goOn()) break;
+            FollowNextLink();
+            if (m_listener.goOn && !m_listener.goOn()) break;
         }
         return std::move(m_result);
     }
@@ -71,7 +87,7 @@ private:
     void CollectBackupFiles(const QString& target);
     void CollectPlainFile(const QString& path, Kind kind);
     void Count(const QString& path, Kind kind);
-    bool FollowNextLink();
+    void FollowNextLink();
     SiteFile Describe(const QString& path) const;
     void Tell(const SiteFile& file);
 
@@ -84,6 +100,7 @@ private:
     Result m_result;
     QSet<QString> m_seen; // tags of the rows
     QSet<QString> m_leftOut;
+    QHash<QString, int> m_searches; // by the page's place on the disk
 };
 
 SiteFile Run::Describe(const QString& path) const {
@@ -113,14 +130,15 @@ void Run::CollectBackupFiles(const QString& target) {
     if (file.icon.isEmpty()) file.icon = u"Unknown3"_s; // a start page of another kind
     if (file.icon == u"Error3" || file.icon == u"Unknown3") file.tag = u"Error"_s;
     Tell(file);
-    if (loading != Loading::Missing) m_pages.Enter(path, loading);
+    if (loading == Loading::Missing) return;
+    if (loading == Loading::Loaded && ++m_searches[Files::Canonical(path)] > MostNames) return;
+    m_pages.Enter(path, loading);
 }
 
 void Run::CollectPlainFile(const QString& path, Kind kind) {
     SiteFile file = Describe(path);
     if (Text::LowerCase(file.name).startsWith(u"javascript:")) return;
-    const bool missing = !Files::CanRead(path);
-    file.icon = missing ? u"Error3"_s : kind == Pictures ? u"Image"_s : u"Unknown"_s;
+    file.icon = PageLoader::IsMissing(path) ? u"Error3"_s : kind == Pictures ? u"Image"_s : u"Unknown"_s;
     Tell(file);
 }
 
@@ -130,17 +148,17 @@ void Run::Count(const QString& path, Kind kind) {
     ++sum.count;
 }
 
-// Looks at the next link of the innermost page; returns whether a link is done with.
-bool Run::FollowNextLink() {
+// Looks at the next link of the innermost page.
+void Run::FollowNextLink() {
     const auto link = m_pages.Next();
-    if (!link) return false;
-    QString target = m_pages.TargetOf(*link);
+    if (!link) return;
+    QString target = WithSingleSeparators(m_pages.TargetOf(*link), m_rootFolder);
     if (target.endsWith(u"')")) target.chop(2);
     if (target.isEmpty()) {
         m_pages.Leave();
-        return false;
+        return;
     }
-    if (m_seen.contains(target)) return true;
+    if (m_seen.contains(target)) return;
     const Kind kind = KindOf(Text::UpperCase(Global::ExtensionOf(target, u"none"_s, 4)));
     const bool external = IsExternal(link->text);
     const bool plain = !external && IsPlainFile(target);
@@ -149,11 +167,10 @@ bool Run::FollowNextLink() {
         CollectBackupFiles(target);
     } else if (plain) {
         CollectPlainFile(target, kind);
-    } else if (!external && !m_leftOut.contains(target) && Files::CanRead(target)) {
+    } else if (!external && !m_leftOut.contains(target) && Files::MayBeThere(target)) {
         m_leftOut.insert(target);
         m_result.leftOut.append(target);
     }
-    return true;
 }
 
 } // namespace

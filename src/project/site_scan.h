@@ -39,7 +39,7 @@ struct Result {
 // What a scan calls.
 struct Listener {
     std::function<void(const SiteFile&)> addRow;
-    // Behind each link; lets events run and says whether the scan goes on.
+    // Behind each link and each page; lets events run and says whether the scan goes on.
     std::function<bool()> goOn;
 };
 

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QProgressBar>
+#include <QTextDocument>
 #include <QTimer>
 
 namespace {
@@ -36,6 +37,7 @@ StatusBar::StatusBar(QWidget* parent) : QStatusBar(parent) {
         auto* label = new QLabel(row.text.toString(), this);
         label->setObjectName(u"StatusBar_"_s + row.name);
         label->setIndent(6);
+        label->setTextFormat(Qt::PlainText); // a path may look like markup
         label->setMinimumWidth(fontMetrics().horizontalAdvance(row.widest.toString()) + 14);
         addWidget(label, static_cast<int>(m_panels.size()) + 1 == WorkPanel ? 1 : 0);
         m_panels.push_back(label);
@@ -73,7 +75,8 @@ void StatusBar::SetPanel(int panel, const QString& text) {
     QLabel* label = m_panels[static_cast<size_t>(panel - 1)];
     if (label->text() == text) return;
     label->setText(text);
-    if (panel == WorkPanel) label->setToolTip(text);
+    if (panel == WorkPanel)
+        label->setToolTip(Qt::mightBeRichText(text) ? QString(u"<qt>"_s + text.toHtmlEscaped()) : text);
 }
 
 QString StatusBar::Panel(int panel) const { return m_panels.at(static_cast<size_t>(panel - 1))->text(); }

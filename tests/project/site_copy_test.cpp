@@ -85,11 +85,36 @@ private slots:
             u"ProjektBackup: 2 Dateien wurden nicht kopiert, die erste ist /"));
     }
 
+    // Two tails of paths that are one, one that is cut within a character, and a folder that goes meanwhile.
+    void tellsOfCopiesThatAreNotThere() {
+        for (const QString& name : {u"aaaa.gif"_s, u"bbbb.gif"_s}) m_folder->Write(name, name.toUtf8());
+        m_folder->Write(u"aaa\U0001F600.gif"_s, "x");
+        m_folder->Write(u"web/a.htm"_s, "<img src=\"../aaaa.gif\"><img src=\"../bbbb.gif\">"
+                                        "<img src=\"../aaa\xF0\x9F\x98\x80.gif\">");
+        SiteCopy::Result result = CopyTo(m_folder->Path(u"ziel"_s));
+        QCOMPARE(result.missed, QStringList{m_folder->Path(u"bbbb.gif"_s)});
+        QCOMPARE(m_folder->Read(u"ziel/.gif"_s), "aaaa.gif");
+        const auto removeBeforeThird = [this](qsizetype number) {
+            if (number == 3) QDir(m_folder->System(u"ziel"_s)).removeRecursively();
+        };
+        result = CopyTo(m_folder->Path(u"ziel"_s), {removeBeforeThird, {}});
+        QVERIFY(result.missed.contains(m_folder->Path(u"web/a.htm"_s)));
+        QCOMPARE(CopyTo({}).missed.size(), 4); // no folder, and not the disk's root in its place
+
+        const QString start = m_folder->Path(u"web/i.php"_s);
+        m_folder->Write(u"web/i.php"_s, "<a href=\"i.php\">");
+        result = SiteCopy::CopyFiles(SiteScan::Scan(start, {}).files, start, m_folder->Path(u"php"_s), {});
+        QVERIFY(result.missed.isEmpty() && m_folder->Has(u"php/i.php"_s));
+    }
+
     void endsInTheMiddleOfAFile() {
         m_folder->Write(u"web/sub/b.htm"_s, QByteArray(5'000'000, 'x'));
+        qsizetype file = 0;
         int pieces = 0;
-        const SiteCopy::Result result = CopyTo(m_folder->Path(u"ziel"_s), {{}, [&] { return ++pieces < 4; }});
-        QVERIFY(result.stopped && pieces == 4);
+        const SiteCopy::Result result =
+            CopyTo(m_folder->Path(u"ziel"_s),
+                   {[&](qsizetype number) { file = number; }, [&] { return file < 2 || ++pieces < 3; }});
+        QVERIFY(result.stopped && pieces == 3);
         QVERIFY(m_folder->Has(u"ziel/a.htm"_s));
         QVERIFY(QDir(m_folder->System(u"ziel/sub"_s)).isEmpty(QDir::Files | QDir::Hidden));
     }

@@ -58,10 +58,10 @@ private slots:
                       "src=\"a.min.js\">"
                       "<a href=\"http://foo/a.htm\"><a href=\"HTTP://foo\"><img src=\"https://foo/x.gif\">"
                       "<a href=\"mailto:a@b.de\"><a href=\"javascript:zurueck()\"><img src=\"../A.gif\">"
-                      "<a href=\"x.htm?a=1\">"),
+                      "<a href=\"x.htm?a=1\"><img src=\"fort/x.gif\">"),
                  (QStringList{u"web/a.htm HTM HTML +"_s, u"web/fehlt.htm HTM Error3"_s,
                               u"web/fehlt.gif GIF Error3 +"_s, u"A.gif GIF Image +"_s,
-                              u"web/x.htm?a=1 HTM Error3 +"_s}));
+                              u"web/x.htm?a=1 HTM Unknown +"_s, u"web/fort/x.gif GIF Image +"_s}));
         QStringList outside;
         for (const SiteFile& file : m_result.files) {
             if (SiteScan::IsOutside(file, m_folder->Path(u"web/a.htm"_s))) outside << file.name;
@@ -73,6 +73,17 @@ private slots:
                  (QStringList{u"web/index.php PHP Unknown3"_s, u"A.gif GIF Image +"_s}));
         QVERIFY(RowsFrom({}).size() <= 1);
         QVERIFY(SiteScan::Scan({}, {}).files.empty());
+    }
+
+    void endsWhereASiteLeadsIntoItself() {
+        m_folder->Write(u"web/b.htm"_s, "<a href=\"/a.htm\"><a href=\"//b.htm\">");
+        QCOMPARE(Rows("<a href=\"/a.htm\"><a href=\"/b.htm\">").size(), 2);
+        for (const QString& name : {u"x"_s, u"y"_s})
+            QFile::link(m_folder->System(u"web"_s), m_folder->System(u"web/"_s + name));
+        m_folder->Write(u"web/a.htm"_s, "<a href=\"x/a.htm\"><a href=\"y/a.htm\">");
+        int links = 0;
+        SiteScan::Scan(m_folder->Path(u"web/a.htm"_s), {{}, [&] { return ++links < 10'000; }});
+        QVERIFY(links < 1'000);
     }
 
     // A page in a missing folder leaves the text before it in place, whose links lead ever deeper.
