@@ -150,7 +150,7 @@ void LinkScan::DescribeFound(LinkRow& row) const {
 
 void LinkScan::ScanLinkedFile(const QString& target, const QString& linkedFrom, const QString& linkName) {
     LinkRow row;
-    row.path = Global::CutBefore(target, u"#"_s);
+    row.path = IsExternal(target) ? Global::CutBefore(target, u"#"_s) : target;
     if (row.path.isEmpty()) return;
     const PageLoader::Loading loading = m_state->loader.Load(row.path);
     row.name = Global::FileNameOf(row.path);
@@ -163,7 +163,8 @@ void LinkScan::ScanLinkedFile(const QString& target, const QString& linkedFrom, 
         Tell(row);
     }
     ++m_counts.files;
-    const bool searched = m_counts.files <= m_settings.maxLinkDeep && loading != PageLoader::Loading::Missing &&
+    const bool searched = m_counts.files <= m_settings.maxLinkDeep &&
+                          loading != PageLoader::Loading::Missing &&
                           !Text::UpperCase(row.path).contains(u".CSS");
     if (searched) m_pages.Enter(row.path, loading);
 }

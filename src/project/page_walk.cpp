@@ -76,12 +76,10 @@ std::optional<PageWalk::Link> PageWalk::Next() {
 
 QString PageWalk::TargetOf(const Link& link) const {
     const Page& page = m_waiting.back();
-    auto path = Global::PathOfLink(link.text, page.folder);
-    if (!path) {
-        const qsizetype told = page.links->unresolvedTold.size();
-        page.links->unresolvedTold.insert(link.number);
-        const bool isNew = page.links->unresolvedTold.size() > told;
-        path = isNew ? Global::ResolveLink(link.text, page.folder) : QString();
-    }
-    return Global::CutBefore(*path, u"#"_s);
+    const QString file = Global::CutBefore(link.text, u"#"_s); // the folder may have one in its name
+    if (const auto path = Global::PathOfLink(file, page.folder)) return *path;
+    const qsizetype told = page.links->unresolvedTold.size();
+    page.links->unresolvedTold.insert(link.number);
+    const bool isNew = page.links->unresolvedTold.size() > told;
+    return isNew ? Global::ResolveLink(file, page.folder) : QString();
 }

@@ -84,7 +84,7 @@ public:
     }
 
 private:
-    void CollectBackupFiles(const QString& target);
+    void CollectBackupFiles(const QString& path);
     void CollectPlainFile(const QString& path, Kind kind);
     void Count(const QString& path, Kind kind);
     void FollowNextLink();
@@ -121,8 +121,7 @@ void Run::Tell(const SiteFile& file) {
 }
 
 // A page, style sheet or script, whose links are searched.
-void Run::CollectBackupFiles(const QString& target) {
-    const QString path = Global::CutBefore(target, u"#"_s);
+void Run::CollectBackupFiles(const QString& path) {
     if (path.isEmpty()) return;
     const Loading loading = m_loader.Load(path);
     SiteFile file = Describe(path);

@@ -99,6 +99,13 @@ private slots:
         QCOMPARE(rows, 3);
     }
 
+    void readsFoldersWithSignsOfLinks() {
+        m_folder->Write(u"w#1 ü%20/b.htm"_s, "x");
+        m_folder->Write(u"w#1 ü%20/a.htm"_s, "<a href=\"b.htm#x\">");
+        QCOMPARE(RowsFrom(u"w#1 ü%20/a.htm"_s),
+                 (QStringList{u"w#1 ü%20/a.htm HTM HTML +"_s, u"w#1 ü%20/b.htm HTM HTML +"_s}));
+    }
+
     void goesAsDeepAsPagesReach() {
         constexpr int Pages = 3000;
         for (int page = 0; page < Pages; ++page) {
