@@ -142,3 +142,4 @@ else:
     server = FTPServer(("127.0.0.1", 0), Handler)
     say(server.socket.getsockname()[1])
     server.serve_forever()
+    threading.Event().wait()
