@@ -1,5 +1,5 @@
-#!/ usr / bin / python3
-#SPDX - License - Identifier : MIT
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
 """An FTP server on loopback, with the weaknesses that its arguments name, until its input ends. Prints its port,
 and then a line for each "connection", "login" and command."""
 import argparse
@@ -113,7 +113,8 @@ def serve_vsftpd():
     settings = {"anonymous_enable": "YES", "no_anon_password": "YES", "anon_root": options.root,
                 "anon_upload_enable": "YES", "anon_mkdir_write_enable": "YES",
                 "anon_other_write_enable": "YES", "write_enable": "YES", "seccomp_sandbox": "NO",
-                "run_as_launching_user": "YES", "listen": "NO", "utf8_filesystem": "YES", "connect_from_port_20": "NO", "anon_umask": "022"}
+                "run_as_launching_user": "YES", "listen": "NO", "utf8_filesystem": "YES",
+                "connect_from_port_20": "NO", "anon_umask": "022"}
     if options.certificate:
         settings |= {"ssl_enable": "YES", "allow_anon_ssl": "YES", "ssl_tlsv1": "YES",
                      "force_anon_data_ssl": "YES", "force_anon_logins_ssl": "YES",
