@@ -160,7 +160,7 @@ bool FtpTransfer::TimeIsUp() const {
 // Carries the request out. What breaks it off breaks the connection off, too.
 CURLcode FtpTransfer::Run(const std::function<bool()>& goesOn) {
     CURLcode code = CURLE_ABORTED_BY_CALLBACK;
-    m_connected = false;
+    m_connected = m_sound = false;
     m_goesOn = &goesOn;
     if (curl_multi_add_handle(m_multi.get(), m_easy.get()) != CURLM_OK) return code;
     for (;;) {
@@ -172,6 +172,7 @@ CURLcode FtpTransfer::Run(const std::function<bool()>& goesOn) {
             curl_socket_t socket = CURL_SOCKET_BAD;
             curl_easy_getinfo(m_easy.get(), CURLINFO_ACTIVESOCKET, &socket);
             m_connected = socket != CURL_SOCKET_BAD;
+            m_sound = m_connected && code == CURLE_OK;
             break;
         }
         m_timedOut = TimeIsUp();

@@ -47,7 +47,9 @@ public:
     Outcome Store(QIODevice& file, qint64 size, const QByteArray& path, bool active, const Patience& patience,
                   const GoOn& goOn);
 
-    bool IsConnected() const { return m_connected; }
+    // Whether the server has been heard well last; else a login has to come first, on the connection if it
+    // lives.
+    bool IsConnected() const { return m_sound; }
     int Reply() const { return m_reply; } // code of the last reply; 0: none
     const QByteArrayList& ReplyLines() const { return m_lines; }
 
@@ -77,6 +79,7 @@ private:
     std::unique_ptr<CURLU, Deleter<curl_url_cleanup>> m_url;
 
     bool m_connected = false;
+    bool m_sound = false;
     int m_reply = 0;
     QByteArrayList m_lines;
     Patience m_patience{};
