@@ -64,6 +64,14 @@ QString WithSingleSeparators(QString path, const QString& folder) {
     return path;
 }
 
+// What an address in a style sheet leads to: it may stand in quotes of its own.
+QString WithoutQuotes(const QString& link) {
+    const QString address = link.trimmed();
+    const bool quoted = address.size() > 1 && address.front() == address.back() &&
+                        (address.front() == u'"' || address.front() == u'\'');
+    return quoted ? address.sliced(1, address.size() - 2) : link;
+}
+
 // As many names of one page are searched. Where folders lead into themselves by symbolic links it has names
 // without end.
 constexpr int MostNames = 40;
@@ -149,8 +157,9 @@ void Run::Count(const QString& path, Kind kind) {
 
 // Looks at the next link of the innermost page.
 void Run::FollowNextLink() {
-    const auto link = m_pages.Next();
+    auto link = m_pages.Next();
     if (!link) return;
+    link->text = WithoutQuotes(link->text);
     QString target = WithSingleSeparators(m_pages.TargetOf(*link), m_rootFolder);
     if (target.endsWith(u"')")) target.chop(2);
     if (target.isEmpty()) {
