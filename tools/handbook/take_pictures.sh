@@ -108,6 +108,17 @@ choose_folder() {
     keys Down Down Down
 }
 dialog projektbackup "alt+d p" choose_folder
+fill_upload() {
+    sleep 1
+    keys ctrl+a
+    say ftp.verein.example
+    keys Tab ctrl+a
+    say verein
+    keys Tab ctrl+a
+    say geheim
+    keys alt+w Tab space
+}
+dialog upload "alt+d u u Return" fill_upload
 if is_wanted toolfenster; then
     keys alt+a Down Down Down Down Return
     for key in b t s e; do keys F6 alt+a $key; done
