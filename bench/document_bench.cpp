@@ -8,13 +8,11 @@
 #include "documents/text_buffer.h"
 #include "milliseconds.h"
 #include "platform/literals.h"
+#include "program.h"
 #include "shell/frm_main.h"
 #include "state/global.h"
 #include "state/neighbours.h"
-#include "support/driver.h"
-#include "support/program_folder.h"
 
-#include <QApplication>
 #include <cstdio>
 #include <vector>
 
@@ -91,11 +89,8 @@ void MeasureAids() {
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QApplication application(argc, argv);
-    const ProgramFolder folder;
-    const Driver::RunningProgram program;
-    Global::AutoDebug = Global::AutoProjectManager = false;
+    const BenchProgram program(argc, argv);
+    const ProgramFolder& folder = program.folder;
     Row open{"open to painted", {}}, key{"typed character, in the middle", {}}, undo{"undo step", {}},
         lower{"LowerCaseTags", {}}, save{"save", {}};
     for (const int size : {100'000, 1'000'000, 10'000'000}) {

@@ -6,11 +6,9 @@
 #include "documents/frm_code.h"
 #include "milliseconds.h"
 #include "platform/literals.h"
+#include "program.h"
 #include "state/global.h"
-#include "support/driver.h"
-#include "support/program_folder.h"
 
-#include <QApplication>
 #include <algorithm>
 #include <cstdio>
 
@@ -52,11 +50,8 @@ void MeasureInsertion(const char* what, const QString& button, int selected) {
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QApplication application(argc, argv);
-    const ProgramFolder folder;
-    const Driver::RunningProgram program;
-    Global::AutoDebug = Global::AutoProjectManager = false;
+    const BenchProgram program(argc, argv);
+    const ProgramFolder& folder = program.folder;
     const QByteArray line = "<p>Der Verein l\xE4"
                             "dt ein: am Samstag wird <b>gepflanzt</b>, am Sonntag gefeiert.</p>\r\n";
     Documents::OpenFile(folder.Write(u"seite.htm"_s, line.repeated(int(1'000'000 / line.size()))));

@@ -8,14 +8,12 @@
 #include "documents/undo.h"
 #include "milliseconds.h"
 #include "platform/literals.h"
+#include "program.h"
 #include "state/global.h"
 #include "state/neighbours.h"
-#include "support/driver.h"
-#include "support/program_folder.h"
 #include "texttools/code_packing.h"
 #include "texttools/umlaut_correction.h"
 
-#include <QApplication>
 #include <algorithm>
 #include <cstdio>
 #include <vector>
@@ -85,11 +83,8 @@ double ThroughTheBox(const Tool& tool) {
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QApplication application(argc, argv);
-    const ProgramFolder folder;
-    const Driver::RunningProgram program;
-    Global::AutoDebug = Global::AutoProjectManager = false;
+    const BenchProgram program(argc, argv);
+    const ProgramFolder& folder = program.folder;
     std::printf("Processor milliseconds               0.1 MB       1 MB      10 MB  growth\n");
     for (const Tool& tool : Tools) {
         Times logic, box;

@@ -8,12 +8,10 @@
 #include "documents/text_buffer.h"
 #include "milliseconds.h"
 #include "platform/literals.h"
+#include "program.h"
 #include "state/global.h"
-#include "support/driver.h"
-#include "support/program_folder.h"
 #include "texttools/search_run.h"
 
-#include <QApplication>
 #include <QFile>
 #include <algorithm>
 #include <array>
@@ -88,11 +86,8 @@ void PrintTable(const char* title, const std::function<CodeBox&(int)>& prepare) 
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QApplication application(argc, argv);
-    const ProgramFolder folder;
-    const Driver::RunningProgram program;
-    Global::AutoDebug = Global::AutoProjectManager = false;
+    const BenchProgram program(argc, argv);
+    const ProgramFolder& folder = program.folder;
     if (argc > 1) {
         for (size_t size = 0; size < Hits.size(); ++size) {
             QFile file(u"%1/page%2.htm"_s.arg(QString::fromLocal8Bit(argv[1])).arg(size + 1));

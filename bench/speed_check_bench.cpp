@@ -8,13 +8,11 @@
 #include "milliseconds.h"
 #include "platform/literals.h"
 #include "platform/window.h"
+#include "program.h"
 #include "project/frm_speed_check.h"
 #include "project/page_weight.h"
 #include "state/global.h"
-#include "support/driver.h"
-#include "support/program_folder.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QTimer>
 #include <QTreeView>
@@ -115,11 +113,8 @@ void MeasureCycle(const ProgramFolder& folder) {
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QApplication application(argc, argv);
-    const ProgramFolder folder;
-    const Driver::RunningProgram program;
-    Global::AutoDebug = Global::AutoProjectManager = false;
+    const BenchProgram program(argc, argv);
+    const ProgramFolder& folder = program.folder;
     std::printf("milliseconds\n");
     MeasurePictures(folder);
     MeasureCycle(folder);
