@@ -21,10 +21,6 @@ namespace {
 
 using Dialogs::Answer;
 
-constexpr int TypePanel = 1;
-constexpr int StatePanel = 2;
-constexpr int EncodingPanel = 8;
-
 const QString UnsavedQuestion =
     QStringLiteral("Die aktuelle Datei wurde noch nicht gespeichert. Möchten Sie das jetzt tun?");
 
@@ -47,7 +43,7 @@ void TellError(const QString& text) { Dialogs::Tell(u"Fehler"_s, text, Dialogs::
 void SetType(const QString& type, const QString& remark) {
     if (type.isEmpty() && Global::AssistantOpen) Neighbours::RunAnimation(2, remark);
     Global::DocType = type.isEmpty() ? u"Text"_s : type;
-    Neighbours::SetStatusPanel(TypePanel, DocumentFile::PanelText(Global::DocType));
+    Neighbours::SetStatusPanel(Neighbours::TypePanel, DocumentFile::PanelText(Global::DocType));
 }
 
 void ShowFileCaption(const QString& path) {
@@ -78,7 +74,7 @@ bool OpenPicture(const QString& path) {
     Global::HeldSource = std::move(picture->text);
     picture->format.lfOnly = false;
     SetFormat(picture->format);
-    Neighbours::SetStatusPanel(EncodingPanel, {}); // bytes, no text
+    Neighbours::SetStatusPanel(Neighbours::EncodingPanel, {}); // bytes, no text
     Neighbours::Browse(path);
     SetType(u"IMG"_s, {});
     return true;
@@ -126,7 +122,7 @@ bool OpenText(const QString& path, bool& preview) {
 
 void SetFormat(const CodePage::Format& format) {
     Global::DocumentFormat = format;
-    Neighbours::SetStatusPanel(EncodingPanel, CodePage::Name(format));
+    Neighbours::SetStatusPanel(Neighbours::EncodingPanel, CodePage::Name(format));
 }
 
 QString CurrentText() {
@@ -138,12 +134,13 @@ void ForgetText() {
     Recovery::Leave();
     Global::HeldSource.clear();
     Global::PicturePreview = Global::OpenFailed = Global::DocChanged = false;
+    Neighbours::SetStatusPanel(Neighbours::WorkPanel, {}); // what was said of the document before
 }
 
 void ShowAtRest() {
-    Neighbours::SetStatusPanel(TypePanel, u"Bereit"_s);
-    Neighbours::SetStatusPanel(StatePanel, u"Bereit"_s);
-    Neighbours::SetStatusPanel(EncodingPanel, {});
+    Neighbours::SetStatusPanel(Neighbours::TypePanel, u"Bereit"_s);
+    Neighbours::SetStatusPanel(Neighbours::StatePanel, u"Bereit"_s);
+    Neighbours::SetStatusPanel(Neighbours::EncodingPanel, {});
 }
 
 bool AskToSave(const QString& title, SaveFirst save) {
@@ -177,7 +174,7 @@ void OpenFile(const QString& path, bool& preview) {
     ShowFileCaption(path);
     Global::DocOpen = true;
     Global::DocChanged = false;
-    Neighbours::SetStatusPanel(StatePanel, u"gespeichert"_s);
+    Neighbours::SetStatusPanel(Neighbours::StatePanel, u"gespeichert"_s);
     Neighbours::ActivateFunktions();
     if (picture) return;
     // The scan of the links lets events run: whatever its user does meanwhile must not be undone behind it,
@@ -265,7 +262,7 @@ void WriteDocument(bool refreshProject) {
         Global::CurrentFile.clear(); // the next save asks for a name
         // whatever the disk held before may be gone: the text is not saved
         Global::DocChanged = true;
-        Neighbours::SetStatusPanel(StatePanel, u"geändert"_s);
+        Neighbours::SetStatusPanel(Neighbours::StatePanel, u"geändert"_s);
         if (Global::ProjectWindowOpen) Neighbours::RefreshProject();
         Neighbours::ActivateFunktions();
         return;
@@ -276,7 +273,7 @@ void WriteDocument(bool refreshProject) {
     Global::LastFile = path;
     Global::SaveSucceeded = Global::DocOpen = true;
     Global::DocChanged = false;
-    Neighbours::SetStatusPanel(StatePanel, u"gespeichert"_s);
+    Neighbours::SetStatusPanel(Neighbours::StatePanel, u"gespeichert"_s);
     // There is no extension test here but for wml: saving a style sheet turns its type into "Text". A
     // picture, which has no text to look into, stays one.
     if (!Global::PicturePreview) {

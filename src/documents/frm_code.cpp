@@ -21,8 +21,6 @@ namespace {
 
 constexpr int ScriptBarHeight = 330; // twips
 constexpr int CountingTime = 50;     // milliseconds in one go
-constexpr int RowPanel = 4;
-constexpr int ColumnPanel = 5;
 
 struct Tool {
     QStringView window;
@@ -96,8 +94,8 @@ void Frm_Code::OnUnload() {
     Global::CodeWindowOpen = false;
     m_counting.stop();
     RememberTools();
-    Neighbours::SetStatusPanel(RowPanel, {});
-    Neighbours::SetStatusPanel(ColumnPanel, {});
+    Neighbours::SetStatusPanel(Neighbours::RowPanel, {});
+    Neighbours::SetStatusPanel(Neighbours::ColumnPanel, {});
     Windows::Unload(u"Frm_DeBug");
     Windows::Unload(u"Frm_Search");
     Global::HeldSource = TextBox->Text();
@@ -143,7 +141,7 @@ void Frm_Code::Code_Change() {
     }
     if (IsShown()) TextBox->SetFocus();
     Global::DocChanged = true;
-    Neighbours::SetStatusPanel(2, u"geändert"_s);
+    Neighbours::SetStatusPanel(Neighbours::StatePanel, u"geändert"_s);
     Neighbours::WatchTagForAssistant();
     SyntaxChecked = false;
     Neighbours::HidePopupList();
@@ -176,16 +174,16 @@ void Frm_Code::GetCursorPos() {
     // Behind a jump across a long page the lines before the caret are counted piece by piece, with room for
     // keys.
     if (!TextBox->CountsLinesTo(caret, CountingTime)) {
-        Neighbours::SetStatusPanel(RowPanel, u"Ze ..."_s);
-        Neighbours::SetStatusPanel(ColumnPanel, u"Sp ..."_s);
+        Neighbours::SetStatusPanel(Neighbours::RowPanel, u"Ze ..."_s);
+        Neighbours::SetStatusPanel(Neighbours::ColumnPanel, u"Sp ..."_s);
         m_counting.start();
         return;
     }
     m_counting.stop();
     const qsizetype line = TextBox->LineFromChar(caret) + 1;
     const qsizetype start = TextBox->LineIndex(line - 1);
-    Neighbours::SetStatusPanel(RowPanel, u"Ze "_s + QString::number(line));
-    Neighbours::SetStatusPanel(ColumnPanel, u"Sp "_s + QString::number(caret - start + 1));
+    Neighbours::SetStatusPanel(Neighbours::RowPanel, u"Ze "_s + QString::number(line));
+    Neighbours::SetStatusPanel(Neighbours::ColumnPanel, u"Sp "_s + QString::number(caret - start + 1));
 }
 
 // --- place

@@ -26,7 +26,7 @@ void Create(const Kind& kind) {
     Undo::UndoClear();
     Windows::Unload(u"Frm_Welcome");
     Global::DocType = kind.type;
-    Neighbours::SetStatusPanel(1, kind.panel);
+    Neighbours::SetStatusPanel(Neighbours::TypePanel, kind.panel);
     ForgetText();
     CodeBox* box = Neighbours::OpenCodeBox();
     Neighbours::HidePopupList();
@@ -35,7 +35,7 @@ void Create(const Kind& kind) {
     Global::DocOpen = true;
     Global::CurrentFile.clear();
     Global::DocChanged = !kind.plainText; // an empty text file closes without a question
-    if (kind.plainText) Neighbours::SetStatusPanel(2, u"Bereit"_s);
+    if (kind.plainText) Neighbours::SetStatusPanel(Neighbours::StatePanel, u"Bereit"_s);
     SetFormat({});
     Neighbours::ActivateFunktions();
     Neighbours::ActivateToolBar();

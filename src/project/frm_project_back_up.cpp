@@ -27,7 +27,6 @@
 
 namespace {
 
-constexpr int WorkPanel = 3;
 constexpr int NameWidth = 170;     // pixels
 constexpr QSize FrameSize(20, 40); // of the window, pixels
 
@@ -128,7 +127,7 @@ void Frm_ProjectBackUp::CopyProjectFiles() {
     const QString report = SiteCopy::Report(result);
     Leave();
     if (report.isEmpty()) return;
-    Neighbours::SetStatusPanel(WorkPanel, report);
+    Neighbours::SetStatusPanel(Neighbours::WorkPanel, report);
     if (Global::AssistantOpen) Neighbours::RunAnimation(1, report);
 }
 

@@ -25,9 +25,7 @@
 #include <QUrl>
 #include <QWindow>
 
-namespace {
-constexpr int StatePanel = 2;
-} // namespace
+namespace {} // namespace
 
 Frm_Main::Frm_Main() : m_statusBar(new StatusBar(this)), m_area(new QMdiArea(this)) {
     setObjectName(u"Frm_Main"_s);
@@ -73,10 +71,10 @@ void Frm_Main::WireNeighbours() {
     const auto bringBack = [this]() -> Frm_Code& {
         if (Loaded<Frm_Code>()) return Shared<Frm_Code>();
         const bool changed = Global::DocChanged;
-        const QString state = m_statusBar->Panel(StatePanel);
+        const QString state = m_statusBar->Panel(Neighbours::StatePanel);
         Frm_Code& code = Shared<Frm_Code>();
         Global::DocChanged = changed;
-        m_statusBar->SetPanel(StatePanel, state);
+        m_statusBar->SetPanel(Neighbours::StatePanel, state);
         return code;
     };
     TheCodeBox.AnsweredBy([=]() -> CodeBox* { return codeMayShow() ? bringBack().TextBox : nullptr; });

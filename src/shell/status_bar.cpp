@@ -2,6 +2,7 @@
 #include "shell/status_bar.h"
 
 #include "platform/literals.h"
+#include "state/neighbours.h"
 
 #include <QDateTime>
 #include <QHBoxLayout>
@@ -26,9 +27,9 @@ constexpr PanelRow Panels[] = {{u"Panel_Type", u"Bereit", u"StyleSheet"},
                                {u"Panel_Date", u"", u"00.00.0000"},
                                {u"Panel_Time", u"", u"00:00"},
                                {u"Panel_Encoding", u"", u"Windows-1252 LF"}};
-constexpr int WorkPanel = 3;
-constexpr int DatePanel = 6;
-constexpr int TimePanel = 7;
+using Neighbours::DatePanel;
+using Neighbours::TimePanel;
+using Neighbours::WorkPanel;
 } // namespace
 
 StatusBar::StatusBar(QWidget* parent) : QStatusBar(parent) {

@@ -75,7 +75,18 @@ struct Size {
 inline Call<Size()> MainSize{"MainSize"};
 inline Call<void()> ActivateFunktions{"ActivateFunktions"};         // recomputes which commands are open
 inline Call<void(const QString&)> SetMainCaption{"SetMainCaption"}; // window title; empty for the one at rest
-inline Call<void(int, const QString&)> SetStatusPanel{"SetStatusPanel"}; // panel, from 1, and its text
+// The panels of the status bar, by their numbers; Work is the room for what long work has to say.
+enum Panel {
+    TypePanel = 1,
+    StatePanel,
+    WorkPanel,
+    RowPanel,
+    ColumnPanel,
+    DatePanel,
+    TimePanel,
+    EncodingPanel
+};
+inline Call<void(int, const QString&)> SetStatusPanel{"SetStatusPanel"}; // panel and its text
 inline Call<void(bool)> ShowPleaseWait{"ShowPleaseWait"};                // the busy picture
 inline Call<void(int)> SetWorkProgress{"SetWorkProgress"}; // percent of Prb_Work; below 0 hides it
 inline Call<void(const QString&, const QString&)> AddMenuAttribute{"AddMenuAttribute"}; // caption and tag
