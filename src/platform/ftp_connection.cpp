@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QUrl>
 #include <algorithm>
 #include <optional>
@@ -103,14 +104,15 @@ private:
     bool m_utf8 = false;
     bool m_passive = false;
     bool m_activeWorks = false;
-    QString m_directory; // the current one, where it is known
+    QSet<QString> m_entered; // directories that the server knows for certain
 };
 
 bool FtpConnection::Session::Open(const QString& server, const QString& user, const QString& password,
                                   const GoOn& goOn) {
     m_open = false;
     const auto address = AddressOf(server);
-    if (!address || HasControlCharacter(server.trimmed()) || HasControlCharacter(user) || HasControlCharacter(password))
+    if (!address || HasControlCharacter(server.trimmed()) || HasControlCharacter(user) ||
+        HasControlCharacter(password))
         return false;
     const QByteArray certificates = QFile::encodeName(Files::ToSystem(m_limits.certificates));
     if (!m_transfer.SetServer(address->host, address->port, certificates)) return false;
@@ -131,7 +133,7 @@ bool FtpConnection::Session::Open(const QString& server, const QString& user, co
 }
 
 Outcome FtpConnection::Session::LogIn(const GoOn& goOn) {
-    m_directory.clear();
+    m_entered.clear();
     const FtpTransfer::Patience patience{m_limits.connect, m_limits.connect, m_limits.connect};
     const Outcome outcome = m_transfer.Command("FEAT", patience, goOn);
     if (outcome != Outcome::Done) return outcome;
@@ -164,11 +166,14 @@ bool FtpConnection::Session::Command(const QByteArray& command, const QString& p
            m_transfer.Reply() / 100 == 2;
 }
 
+// Every other request bears its full path, so a directory is asked for once; four times a file would double
+// the time that small ones take.
 bool FtpConnection::Session::ChangeDirectory(const QString& path, const GoOn& goOn) {
-    if (m_transfer.IsConnected() && path == m_directory) return m_open;
-    const bool changed = Command("CWD ", path, goOn);
-    m_directory = changed ? path : QString();
-    return changed;
+    const QString name = path.endsWith(u'/') ? path.chopped(1) : path;
+    if (m_transfer.IsConnected() && m_entered.contains(name)) return true;
+    if (!Command("CWD ", path, goOn)) return false;
+    m_entered.insert(name);
+    return true;
 }
 
 bool FtpConnection::Session::Put(const QString& local, const QString& remote, const GoOn& goOn) {
@@ -179,6 +184,7 @@ bool FtpConnection::Session::Put(const QString& local, const QString& remote, co
         m_passive = true;
         outcome = file.seek(0) ? Store(file, remote, goOn) : Outcome::Failed;
     }
+    if (outcome != Outcome::Done) m_entered.clear(); // its directory may have gone
     return outcome == Outcome::Done;
 }
 

@@ -28,7 +28,8 @@ public:
     // usual one; an empty `user` is the anonymous one. TLS is used where the server offers it. Returns
     // whether the server took the login; the password is kept nowhere but in memory.
     bool Open(const QString& server, const QString& user, const QString& password, const GoOn& goOn);
-    // Makes `path` ("/web/html") the current directory of the server.
+    // Whether `path` ("/web/html") is a directory that the server changes to. Once it has, it is not asked
+    // again until the connection breaks or a file fails.
     bool ChangeDirectory(const QString& path, const GoOn& goOn);
     bool MakeDirectory(const QString& path, const GoOn& goOn);
     // Sends the file `local` (full path in the program's form), byte for byte, to the full path `remote` of

@@ -61,6 +61,7 @@ private:
     void Begin(const Patience& patience);
     bool TimeIsUp() const;
     CURLcode Run(const std::function<bool()>& goesOn);
+    CURLcode RunHere(const GoOn& goOn);
     CURLcode RunBeside(const GoOn& goOn);
     Outcome OutcomeOf(CURLcode code) const;
 
@@ -86,6 +87,7 @@ private:
     std::atomic<qint64> m_sent = 0;
     bool m_fileBegun = false;
     bool m_timedOut = false;
-    bool m_quitting = false;
+    bool m_quick = false; // the file before took less than a tick
+    const std::function<bool()>* m_goesOn = nullptr;
     std::atomic<bool> m_left = false;
 };

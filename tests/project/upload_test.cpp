@@ -210,6 +210,7 @@ private slots:
         QCOMPARE(Lines(m_log), Lines(Unconnected));
         const FtpServer server({u"--cut"_s, u"10"_s, u"--gone"_s});
         Use(server);
+        m_limits.connect = 300ms;
         QStringList folders;
         for (int i = 0; i < 1000; ++i) folders << u"web/bilder/Größe 5% #2.gif"_s;
         QElapsedTimer timer;

@@ -27,7 +27,7 @@ arguments.add_argument("--encoding", default="utf8")
 arguments.add_argument("--pause", type=float, default=0, help="seconds between pieces of a file")
 arguments.add_argument("--quota", type=int, help="bytes of a file that are taken; 552 behind them")
 arguments.add_argument("--cut", type=int, help="bytes of a file behind which both connections end")
-arguments.add_argument("--gone", action="store_true", help="nobody can connect any more behind the cut")
+arguments.add_argument("--gone", action="store_true", help="nobody is answered any more behind the cut")
 arguments.add_argument("--refuse", default="", help="commands that are answered 500")
 arguments.add_argument("--mute", default="", help="commands that are never answered")
 arguments.add_argument("--no-calls", type=int, help="calls of the active mode fail with this code; 0: silently")
@@ -62,7 +62,7 @@ class Transfer(DTPHandler):
             self.close()
         elif options.cut is not None and taken > options.cut:
             if options.gone:
-                server.close()
+                server.del_channel()
             self.cmd_channel.close()
 
 
