@@ -67,8 +67,9 @@ std::optional<QByteArray> Windows1252(const QString& text) {
 
 // Whether the server has agreed to TLS, among the lines of its login.
 bool IsEncrypted(const QByteArrayList& lines) {
-    return std::any_of(lines.begin(), lines.end(),
-                       [](const QByteArray& line) { return line.startsWith("234"); });
+    return std::any_of(lines.begin(), lines.end(), [](const QByteArray& line) {
+        return line.startsWith("234") || line.startsWith("334");
+    });
 }
 
 // Whether the list of features in `lines` holds UTF-8.

@@ -4,7 +4,15 @@
 #include <algorithm>
 #include <array>
 #include <csignal>
-#include <future>
+#include <utility>
+#ifdef Q_OS_WIN
+#include <winsock2.h>
+#else
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
+#include <unistd.h>
+#endif
 
 using namespace std::chrono_literals;
 
@@ -12,7 +20,9 @@ namespace {
 
 constexpr auto Tick = 20ms;
 constexpr auto LeaveTaking = 1s;
+constexpr auto Shortly = 2ms;
 constexpr long SendBuffer = 256 * 1024;
+constexpr qsizetype MostLines = 10'000; // of a reply; more are no reply
 
 void PrepareLibrary() {
     static const CURLcode prepared = curl_global_init(CURL_GLOBAL_DEFAULT);
@@ -70,10 +80,21 @@ FtpTransfer::FtpTransfer() {
     Set(CURLOPT_NOPROGRESS, 0L);
     Set(CURLOPT_XFERINFOFUNCTION, &Watch);
     Set(CURLOPT_XFERINFODATA, this);
+    Set(CURLOPT_SOCKOPTFUNCTION, &PrepareSocket);
+    Set(CURLOPT_OPENSOCKETFUNCTION, &OpenSocket);
+    Set(CURLOPT_OPENSOCKETDATA, this);
+    Set(CURLOPT_CLOSESOCKETFUNCTION, &CloseSocket);
+    Set(CURLOPT_CLOSESOCKETDATA, this);
 }
 
 FtpTransfer::~FtpTransfer() {
     if (m_connected) Quit();
+    if (m_worker.joinable()) {
+        Assign(Task::End);
+        m_worker.join();
+    }
+    m_easy.reset(); // before what CloseSocket() needs
+    m_multi.reset();
 }
 
 bool FtpTransfer::SetServer(const QByteArray& host, quint16 port, const QByteArray& certificates) {
@@ -108,7 +129,7 @@ FtpTransfer::Outcome FtpTransfer::Command(const QByteArray& command, const Patie
     Set(CURLOPT_UPLOAD, 0L);
     Set(CURLOPT_NOBODY, 1L);
     Set(CURLOPT_QUOTE, commands.get());
-    const CURLcode code = RunHere(goOn);
+    const CURLcode code = RunBeside(goOn);
     Set(CURLOPT_QUOTE, static_cast<curl_slist*>(nullptr));
     return OutcomeOf(code);
 }
@@ -123,9 +144,7 @@ FtpTransfer::Outcome FtpTransfer::Store(QIODevice& file, qint64 size, const QByt
     Set(CURLOPT_UPLOAD, 1L);
     Set(CURLOPT_INFILESIZE_LARGE, static_cast<curl_off_t>(size));
     Set(CURLOPT_FTPPORT, active ? "-" : static_cast<const char*>(nullptr));
-    // Another thread would nearly double the time of a small file on a quick line.
-    const CURLcode code = m_quick && size <= SendBuffer ? RunHere(goOn) : RunBeside(goOn);
-    m_quick = Clock::now() - m_begin < Tick;
+    const CURLcode code = RunBeside(goOn);
     const bool unmade = m_timedOut && active && !m_fileBegun;
     return unmade ? Outcome::NoDataConnection : OutcomeOf(code);
 }
@@ -133,37 +152,37 @@ FtpTransfer::Outcome FtpTransfer::Store(QIODevice& file, qint64 size, const QByt
 // The transfer never ends by itself: libcurl would say farewell once more, and wait for that without a limit.
 void FtpTransfer::Quit() {
     Begin({LeaveTaking, LeaveTaking, LeaveTaking});
+    m_quitting = true;
     SList commands(curl_slist_append(nullptr, "*QUIT"));
     curl_slist_append(commands.get(), "*NOOP");
     Set(CURLOPT_UPLOAD, 0L);
     Set(CURLOPT_NOBODY, 1L);
     Set(CURLOPT_QUOTE, commands.get());
-    Run([this] { return m_reply == 0; });
+    RunBeside({});
 }
 
 void FtpTransfer::Begin(const Patience& patience) {
     m_patience = patience;
-    m_begin = m_moved = Clock::now();
+    m_begin = Clock::now();
+    m_moved = m_begin;
     m_reply = 0;
     m_lines.clear();
     m_file = nullptr;
-    m_all = m_sent = 0;
+    m_all = m_sent = m_taken = 0;
     m_fileBegun = m_timedOut = m_left = false;
 }
 
 bool FtpTransfer::TimeIsUp() const {
     const auto now = Clock::now();
     return now - m_begin > m_patience.all ||
-           now - m_moved > (m_fileBegun ? m_patience.silence : m_patience.beforeFile);
+           now - m_moved.load() > (m_fileBegun ? m_patience.silence : m_patience.beforeFile);
 }
 
-// Carries the request out. What breaks it off breaks the connection off, too.
-CURLcode FtpTransfer::Run(const std::function<bool()>& goesOn) {
+// Carries the request out, until that IsOver().
+CURLcode FtpTransfer::Run() {
     CURLcode code = CURLE_ABORTED_BY_CALLBACK;
-    m_connected = m_sound = false;
-    m_goesOn = &goesOn;
     if (curl_multi_add_handle(m_multi.get(), m_easy.get()) != CURLM_OK) return code;
-    for (;;) {
+    while (!IsOver()) {
         int running = 0;
         if (curl_multi_perform(m_multi.get(), &running) != CURLM_OK) break;
         int waiting = 0;
@@ -175,33 +194,67 @@ CURLcode FtpTransfer::Run(const std::function<bool()>& goesOn) {
             m_sound = m_connected && code == CURLE_OK;
             break;
         }
-        m_timedOut = TimeIsUp();
-        if (m_timedOut || !goesOn()) break;
+        if (m_quitting && m_reply != 0) break;
         curl_multi_poll(m_multi.get(), nullptr, 0, static_cast<int>(Tick.count()), nullptr);
     }
     curl_multi_remove_handle(m_multi.get(), m_easy.get());
     return code;
 }
 
-CURLcode FtpTransfer::RunHere(const GoOn& goOn) {
-    return Run([this, &goOn, asked = m_begin]() mutable {
-        const auto now = Clock::now();
-        if (!m_left && now - asked >= Tick) {
-            m_left = goOn && !goOn(m_sent, m_all);
-            asked = Clock::now();
-        }
-        return !m_left;
-    });
+// Small files come one behind the other, and to be woken would take longer than to send one.
+template<class Condition> void FtpTransfer::AwaitShortly(Condition condition) {
+    const auto end = Clock::now() + Shortly;
+    while (!condition() && Clock::now() < end) std::this_thread::yield();
 }
 
-// In a thread of its own: behind the last byte of a file libcurl waits for the server's word without coming
-// back.
-CURLcode FtpTransfer::RunBeside(const GoOn& goOn) {
-    auto code = std::async(std::launch::async, [this] { return Run([this] { return !m_left; }); });
-    while (code.wait_for(Tick) != std::future_status::ready) {
-        if (!m_left && goOn && !goOn(m_sent, m_all)) m_left = true;
+void FtpTransfer::Assign(Task task) {
+    const std::lock_guard lock(m_taskAccess);
+    m_task = task;
+    m_taskChanged.notify_all();
+}
+
+void FtpTransfer::Work() {
+    std::unique_lock lock(m_taskAccess);
+    for (;;) {
+        lock.unlock();
+        AwaitShortly([this] { return m_task != Task::None; });
+        lock.lock();
+        m_taskChanged.wait(lock, [this] { return m_task != Task::None; });
+        if (m_task == Task::End) return;
+        lock.unlock();
+        const CURLcode code = Run();
+        lock.lock();
+        m_code = code;
+        m_task = Task::None;
+        m_taskChanged.notify_all();
     }
-    return code.get();
+}
+
+// In a thread of its own: for the greeting of TLS, and for the server's word on a file, libcurl waits without
+// coming back. What breaks the request off breaks the connection off, too: the answer that is missing would
+// be taken for that of the next one.
+CURLcode FtpTransfer::RunBeside(const GoOn& goOn) {
+    m_connected = m_sound = false;
+    if (!m_worker.joinable()) m_worker = std::thread([this] { Work(); });
+    Assign(Task::Run);
+    AwaitShortly([this] { return m_task == Task::None; });
+    std::unique_lock lock(m_taskAccess);
+    while (!m_taskChanged.wait_for(lock, Tick, [this] { return m_task == Task::None; })) {
+        lock.unlock();
+        if (!IsOver() && goOn && !goOn(m_sent, m_all)) m_left = true;
+        if (TimeIsUp()) m_timedOut = true;
+        if (IsOver()) HangUp();
+        lock.lock();
+    }
+    if (IsOver()) m_connected = m_sound = false;
+    return m_code;
+}
+
+// Wakes whoever waits for the server, which has nothing more to say.
+void FtpTransfer::HangUp() {
+    constexpr int BothWays = 2; // SD_BOTH, SHUT_RDWR
+    const std::lock_guard lock(m_socketsAccess);
+    for (const curl_socket_t socket : m_sockets) ::shutdown(socket, BothWays);
 }
 
 FtpTransfer::Outcome FtpTransfer::OutcomeOf(CURLcode code) const {
@@ -245,13 +298,45 @@ size_t FtpTransfer::TakeReply(char* line, size_t size, size_t count, void* self)
     const int code = text.first(std::min<qsizetype>(CodeLength, text.size())).toInt(&isNumber);
     // A "-" behind the code says that more lines follow.
     if (isNumber && text.size() > CodeLength && text[CodeLength] != '-') transfer->m_reply = code;
-    transfer->m_lines.append(text);
+    if (transfer->m_lines.size() < MostLines) transfer->m_lines.append(text);
     return size * count;
 }
 
-// Asked by libcurl, once a second where it waits inside.
-int FtpTransfer::Watch(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t) {
+// Asked by libcurl where it waits inside, too. A slow line needs long for what has been read at once.
+int FtpTransfer::Watch(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t sent) {
     auto* transfer = static_cast<FtpTransfer*>(self);
-    if (transfer->TimeIsUp()) transfer->m_timedOut = true;
-    return transfer->m_timedOut || !(*transfer->m_goesOn)() ? 1 : 0;
+    if (std::exchange(transfer->m_taken, sent) != sent) transfer->m_moved = Clock::now();
+    return transfer->IsOver() ? 1 : 0;
+}
+
+curl_socket_t FtpTransfer::OpenSocket(void* self, curlsocktype, curl_sockaddr* address) {
+    auto* transfer = static_cast<FtpTransfer*>(self);
+    if (transfer->m_quitting)
+        return CURL_SOCKET_BAD; // one that has hung up need not be called for a farewell
+    const std::lock_guard lock(transfer->m_socketsAccess);
+    const curl_socket_t socket = ::socket(address->family, address->socktype, address->protocol);
+    if (socket != CURL_SOCKET_BAD) transfer->m_sockets.push_back(socket);
+    return socket;
+}
+
+// What waits inside of the system is on its way without a sign of life, for minutes on a slow line.
+int FtpTransfer::PrepareSocket(void*, curl_socket_t socket, curlsocktype) {
+#ifdef TCP_NOTSENT_LOWAT
+    constexpr int Waiting = 128 * 1024;
+    setsockopt(socket, IPPROTO_TCP, TCP_NOTSENT_LOWAT, &Waiting, sizeof(Waiting));
+#else
+    static_cast<void>(socket);
+#endif
+    return CURL_SOCKOPT_OK;
+}
+
+int FtpTransfer::CloseSocket(void* self, curl_socket_t socket) {
+    auto* transfer = static_cast<FtpTransfer*>(self);
+    const std::lock_guard lock(transfer->m_socketsAccess);
+    std::erase(transfer->m_sockets, socket);
+#ifdef Q_OS_WIN
+    return ::closesocket(socket);
+#else
+    return ::close(socket);
+#endif
 }

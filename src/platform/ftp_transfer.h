@@ -7,9 +7,13 @@
 #include <QIODevice>
 #include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <curl/curl.h>
 #include <functional>
 #include <memory>
+#include <mutex>
+#include <thread>
+#include <vector>
 
 class FtpTransfer {
 public:
@@ -62,14 +66,22 @@ private:
     void Quit();
     void Begin(const Patience& patience);
     bool TimeIsUp() const;
-    CURLcode Run(const std::function<bool()>& goesOn);
-    CURLcode RunHere(const GoOn& goOn);
+    bool IsOver() const { return m_left || m_timedOut; }
+    CURLcode Run();
+    enum class Task { None, Run, End };
+    void Assign(Task task);
+    template<class Condition> void AwaitShortly(Condition condition);
+    void Work();
     CURLcode RunBeside(const GoOn& goOn);
+    void HangUp();
     Outcome OutcomeOf(CURLcode code) const;
 
     static size_t ReadFile(char* buffer, size_t size, size_t count, void* self);
     static size_t TakeReply(char* line, size_t size, size_t count, void* self);
-    static int Watch(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t);
+    static int Watch(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t sent);
+    static curl_socket_t OpenSocket(void* self, curlsocktype, curl_sockaddr* address);
+    static int PrepareSocket(void* self, curl_socket_t socket, curlsocktype);
+    static int CloseSocket(void* self, curl_socket_t socket);
 
     template<auto Free> struct Deleter {
         template<class Handle> void operator()(Handle* handle) const { Free(handle); }
@@ -84,13 +96,23 @@ private:
     QByteArrayList m_lines;
     Patience m_patience{};
     Clock::time_point m_begin;
-    Clock::time_point m_moved; // when the server or the file gave something last
+    std::atomic<Clock::time_point> m_moved; // when the server gave or took something last
     QIODevice* m_file = nullptr;
     qint64 m_all = 0;
+    curl_off_t m_taken = 0; // by the network, of m_sent
     std::atomic<qint64> m_sent = 0;
-    bool m_fileBegun = false;
-    bool m_timedOut = false;
-    bool m_quick = false; // the file before took less than a tick
-    const std::function<bool()>* m_goesOn = nullptr;
+    std::atomic<bool> m_fileBegun = false;
+    std::atomic<bool> m_timedOut = false;
     std::atomic<bool> m_left = false;
+    bool m_quitting = false;
+
+    // The thread that runs the requests, and what it is told and tells.
+    std::mutex m_taskAccess;
+    std::condition_variable m_taskChanged;
+    std::atomic<Task> m_task = Task::None;
+    CURLcode m_code = CURLE_OK;
+    std::thread m_worker;
+
+    std::mutex m_socketsAccess;
+    std::vector<curl_socket_t> m_sockets; // those that are open, but for calls of the server's
 };

@@ -300,14 +300,19 @@ void Frm_UploadAssistant::KeepLogin() {
 }
 
 void Frm_UploadAssistant::LoadFiles() {
+    const bool byKey = Cmd_LoadNew->hasFocus();
     Cmd_Control[0]->setEnabled(false);
     Cmd_LoadNew->setEnabled(false);
+    Cmd_RemoveFile->setEnabled(false);
+    Lvw_Files->setEnabled(false);                    // a row that goes meanwhile would shift the others
     const QPointer<Frm_UploadAssistant> alive(this); // letting events run may end this window
     const SiteScan::Result site = FillWithSite(*m_files, [this, &alive] { return alive && !m_left; });
     if (!alive || m_left) return;
     RemoveOutsideFiles(site);
+    Lvw_Files->setEnabled(true);
     Cmd_LoadNew->setEnabled(true);
     Cmd_Control[0]->setEnabled(true);
+    if (byKey) Cmd_LoadNew->setFocus();
 }
 
 // What lies outside of the page's folder has no place on the server.

@@ -169,6 +169,7 @@ private slots:
         const QString smallSize = u"8 B"_s;
         row("refused", {u"--password"_s, u"anderes"_s}, Unconnected, 0);
         row("says nothing", {u"--silent"_s}, Unconnected, 0);
+        row("says nothing behind TLS", {u"--empty-promise"_s}, Unconnected, 0);
         row("certificate of nobody", {u"--vsftpd"_s, u"--certificate"_s}, Unconnected, 0);
         // each behind the other: a part of the big file, and the small one whole
         row("full", {u"--quota"_s, u"100000"_s}, Connected + NotCopied(big, size) + Copied(small, smallSize),

@@ -30,6 +30,7 @@ arguments.add_argument("--cut", type=int, help="bytes of a file behind which bot
 arguments.add_argument("--gone", action="store_true", help="nobody is answered any more behind the cut")
 arguments.add_argument("--refuse", default="", help="commands that are answered 500")
 arguments.add_argument("--mute", default="", help="commands that are never answered")
+arguments.add_argument("--empty-promise", action="store_true", help="agrees to TLS, and says nothing any more")
 arguments.add_argument("--no-calls", type=int, help="calls of the active mode fail with this code; 0: silently")
 options = arguments.parse_args()
 logging.basicConfig(level=logging.CRITICAL)
@@ -83,6 +84,9 @@ class Handler(FTPHandler):
             return
         if cmd in options.refuse.split(","):
             self.respond("500 Nicht hier.")
+        elif options.empty_promise and cmd == "AUTH":
+            self.respond("234 Bitte.")
+            self.del_channel()
         elif calls and cmd in ("EPRT", "PORT"):
             self.respond("200 Wird gerufen.")
         elif calls and cmd == "STOR":
