@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Writes animated GIF89a files: one palette for the whole file, one-bit transparency, endless loop.
+"""Writes GIF89a files: one palette for the whole file, one-bit transparency, an endless loop if there is more than one
+frame.
 
 Every frame holds only the part of the picture that is not there yet. Where something has to vanish for the next frame,
 the frame covers it as well and is cleared after showing, so nothing smears.
@@ -83,8 +84,10 @@ def _bounds(positions, width):
 def _differences(width, height, frames):
     """For each frame: its place, its dots and what becomes of it after showing."""
     canvas = bytearray([TRANSPARENT]) * (width * height)
-    blank = bytes(canvas)  # Follows the last frame, so that a player that starts again finds nothing left over.
-    for frame, following in zip(frames, frames[1:] + [blank]):
+    blank = bytes(canvas)
+    # Nothing follows the last frame, so that a player that starts again finds nothing left over; a single frame stays.
+    followers = frames[1:] + [blank] if len(frames) > 1 else frames
+    for frame, following in zip(frames, followers):
         vanishing = [i for i, (now, then) in enumerate(zip(frame, following))
                      if now != TRANSPARENT and then == TRANSPARENT]
         new = [i for i, (old, now) in enumerate(zip(canvas, frame)) if old != now]
@@ -109,7 +112,8 @@ def encode(width, height, palette, frames, delays):
     out += struct.pack("<HHBBB", width, height, 0xF0 | (table_bits - 1), TRANSPARENT, 0)
     for colour in colours:
         out += bytes(colour)
-    out += b"\x21\xFF\x0BNETSCAPE2.0\x03\x01\0\0\0"
+    if len(frames) > 1:
+        out += b"\x21\xFF\x0BNETSCAPE2.0\x03\x01\0\0\0"
     for (place, dots, disposal), delay in zip(_differences(width, height, frames), delays, strict=True):
         left, top, right, bottom = place
         out += b"\x21\xF9\x04" + struct.pack("<BHB", disposal << 2 | 1, delay, TRANSPARENT) + b"\0"
