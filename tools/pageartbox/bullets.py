@@ -98,7 +98,7 @@ def flower(colour, middle):
 
 def quaver(canvas, _):
     with placed(canvas.ctx, 0.6, 0, scale=0.98):
-        note(canvas.ctx, 5, 13, "#203868")
+        note(canvas.ctx, 5, 13, "#2c60c0")
 
 
 def leather_ball(canvas, _):
