@@ -161,11 +161,11 @@ def honey_bee(canvas, _):
     bee(canvas.ctx)
 
 
-def butterfly(canvas, _):
-    ctx = canvas.ctx
+def butterfly(ctx, spread=1.0):
+    """A butterfly; `spread` tells how far its wings are open (above 0 to 1)."""
     for side in (-1, 1):
         with placed(ctx, 24, 25):
-            ctx.scale(side, 1)
+            ctx.scale(side * spread, 1)
             curve(ctx, (1, 2), (4, 18, 16, 22, 17, 12), (17.5, 4, 8, 1, 1, 0))
             outlined(ctx, downwards(0, 18, "#f8a030", "#e86020"))
             curve(ctx, (1, 0), (2, -14, 16, -24, 21, -17), (25, -8, 14, 4, 1, 2))
@@ -173,7 +173,8 @@ def butterfly(canvas, _):
             for x, y, radius in ((14, -11, 3), (11, 10, 2.2)):
                 circle(ctx, x, y, radius)
                 fill(ctx, "#5080e0", OUTLINE, 1)
-            curve(ctx, (0.5, -9), (2, -15, 5, -18, 7, -19))
+        with placed(ctx, 24, 25):
+            curve(ctx, (side * 0.5, -9), (side * 2, -15, side * 5, -18, side * 7, -19))
             stroke(ctx, OUTLINE, 1.4)
     ellipse(ctx, 24, 26, 2.6, 11)
     outlined(ctx, "#684838", 1.3)
@@ -281,6 +282,6 @@ def club(name, draw, size=48):
 PICTURES = [
     club("apfel", apple), club("baum", tree), club("biene", honey_bee), club("fussball", ball),
     club("giesskanne", watering_can), club("medaille", medal), club("moehren", carrots), club("pfeife", whistle),
-    club("pokal", cup), club("schmetterling", butterfly), club("sonnenblume", sunflower), club("spaten", spade),
+    club("pokal", cup), club("schmetterling", lambda canvas, _: butterfly(canvas.ctx)), club("sonnenblume", sunflower), club("spaten", spade),
     club("tennis", tennis), club("trikot", shirt), club("tulpe", tulip),
 ]

@@ -70,10 +70,6 @@ def drum(ctx, left=0.0, right=0.0):
             fill(ctx, "#f4d098", OUTLINE, 1.2)
 
 
-def side_drum(canvas, _):
-    drum(canvas.ctx, left=0.5)
-
-
 def notes(canvas, _):
     ctx = canvas.ctx
     for colour, width in ((OUTLINE, 4.4), ("#4890f0", 0.8)):
@@ -109,8 +105,7 @@ def accordion(canvas, _):
             fill(ctx, "#fff8e8")
 
 
-def beer(canvas, _):
-    ctx = canvas.ctx
+def beer(ctx):
     for colour, width in ((OUTLINE, 6.4), ("#d8ecf8", 3)):
         curve(ctx, (34, 19), (46, 17, 46, 37, 34, 36))
         stroke(ctx, colour, width)
@@ -158,17 +153,19 @@ def balloons(canvas, _):
         outlined(ctx, ball_shade(x, y, 12, light, colour, dark), 1.6)
 
 
-def fir(canvas, _):
-    ctx = canvas.ctx
+LIGHTS = ("#f8d030", "#e83838", "#4890f0")
+
+
+def fir(ctx, shift=0):
+    """A Christmas tree whose lights have moved on by so many colours."""
     ctx.rectangle(20.5, 38, 7, 8)
     outlined(ctx, "#986030")
     for top, half, bottom in ((19, 18, 40), (11, 14, 29), (4, 10, 19)):
         polygon(ctx, (24, top), (24 + half, bottom), (24, bottom - 2.5), (24 - half, bottom))
         outlined(ctx, rightwards(24 - half, 24 + half, "#60b848", "#2c8830", "#1c6424"))
-    for x, y, colour in ((20, 16, "#f8d030"), (28, 21, "#e83838"), (18, 26, "#4890f0"), (31, 33, "#f8d030"), (24, 32, "#e83838"),
-                         (13, 36, "#f8d030"), (36, 37.5, "#4890f0")):
+    for i, (x, y) in enumerate(((20, 16), (28, 21), (18, 26), (31, 33), (24, 32), (36, 37.5), (13, 36))):
         circle(ctx, x, y, 2.1)
-        fill(ctx, colour, OUTLINE, 0.8)
+        fill(ctx, LIGHTS[(i + shift) % 3], OUTLINE, 0.8)
     star(ctx, 24, 5.5, 5, 2.2)
     fill(ctx, "#ffe040", "#b07808", 1)
 
@@ -227,8 +224,8 @@ def whiskers(ctx, y):
     stroke(ctx, OUTLINE, 1)
 
 
-def cat(canvas, _):
-    ctx = canvas.ctx
+def cat(ctx, lids=0.0):
+    """A cat's head; `lids` tells how far its eyes are shut (0 to 1)."""
     curve(ctx, (6, 7), (9, 6, 14, 9, 18, 12), (22, 10.5, 26, 10.5, 30, 12), (34, 9, 39, 6, 42, 7), (43, 13, 43, 18, 42, 24),
           (42, 37, 34, 43, 24, 43), (14, 43, 6, 37, 6, 24), (5, 18, 5, 13, 6, 7))
     outlined(ctx, ball_shade(24, 24, 24, "#ffd090", "#f4a040", "#e08020"))
@@ -237,9 +234,9 @@ def cat(canvas, _):
             ctx.scale(side, 1)
             polygon(ctx, (8.5, 14), (15.5, 10), (16, 18))
             fill(ctx, "#f8a8a0")
-            ellipse(ctx, 8, 25, 3, 3.8)
+            ellipse(ctx, 8, 25, 3, max(0.4, 3.8 * (1 - lids)))
             outlined(ctx, "#b8e060", 1.2)
-            ellipse(ctx, 8, 25, 1.1, 3.2)
+            ellipse(ctx, 8, 25, 1.1, max(0.4, 3.2 * (1 - lids)))
             fill(ctx, OUTLINE)
             for y in (17, 20):
                 line(ctx, (1.5 if y == 17 else 1.2, y - 4), (1.5 if y == 17 else 1.2, y))
@@ -297,10 +294,6 @@ def sun(ctx, turn=0.0):
     stroke(ctx, OUTLINE, 1.5)
 
 
-def laughing_sun(canvas, _):
-    sun(canvas.ctx)
-
-
 def cloud(ctx, light, dark):
     puffs = ((13, 22, 8.5), (24, 15, 10.5), (35, 21, 9), (24, 24, 8))
     for x, y, radius in puffs:
@@ -311,13 +304,14 @@ def cloud(ctx, light, dark):
         fill(ctx, downwards(6, 32, light, dark))
 
 
-def rain(canvas, _):
-    ctx = canvas.ctx
-    cloud(ctx, "#f4f8fc", "#a8b8cc")
-    for x, y in ((12, 36), (20, 40), (28, 36), (36, 40)):
+def rain(ctx, fallen=0.5):
+    """A rain cloud whose drops have fallen that share (0 to 1) of their way to the ground."""
+    for i, x in enumerate((12, 20, 28, 36)):
+        y = 26 + (fallen + i % 2 * 0.5) % 1 * 26
         curve(ctx, (x, y - 4.5), (x + 1, y - 2, x + 3, y, x + 3, y + 2), (x + 3, y + 5.6, x - 3, y + 5.6, x - 3, y + 2),
               (x - 3, y, x - 1, y - 2, x, y - 4.5))
         fill(ctx, "#68b4f8", "#2868b0", 1.1)
+    cloud(ctx, "#f4f8fc", "#a8b8cc")
 
 
 def red_heart(canvas, _):
@@ -351,13 +345,18 @@ def maypole(canvas, _):
     outlined(ctx, "#78b850", 1.2)
 
 
+def still(draw, *how):
+    """A drawing that can also move, at rest."""
+    return lambda canvas, _: draw(canvas.ctx, *how)
+
+
 def feast(name, draw):
     return Picture(f"{name}.gif", 48, 48, draw)
 
 
 PICTURES = [
-    feast("akkordeon", accordion), feast("bierkrug", beer), feast("geschenk", present), feast("herz", red_heart),
-    feast("hund", dog), feast("katze", cat), feast("luftballons", balloons), feast("maibaum", maypole), feast("noten", notes),
-    feast("osterei", easter_egg), feast("regenwolke", rain), feast("sonne", laughing_sun), feast("tannenbaum", fir),
-    feast("torte", cake), feast("trommel", side_drum), feast("trompete", trumpet),
+    feast("akkordeon", accordion), feast("bierkrug", still(beer)), feast("geschenk", present), feast("herz", red_heart),
+    feast("hund", dog), feast("katze", still(cat)), feast("luftballons", balloons), feast("maibaum", maypole), feast("noten", notes),
+    feast("osterei", easter_egg), feast("regenwolke", still(rain)), feast("sonne", still(sun)), feast("tannenbaum", still(fir)),
+    feast("torte", cake), feast("trommel", still(drum, 0.5)), feast("trompete", trumpet),
 ]
