@@ -4,7 +4,7 @@
 import math
 import random
 
-from canvas import (circle, curve, ellipse, fill, lighter, line, placed, polygon, rounded, star, stroke)
+from canvas import (channels, circle, curve, ellipse, fill, lighter, line, placed, polygon, rounded, star, stroke)
 from noise import Field, paint_dots, shaded
 from picture import Picture
 from rules import beamed, blossom, leaf, note, paw
@@ -28,14 +28,16 @@ def cloudy(colours, layers, seed, spread=1.6):
 
 
 PAPER = ((4, 4, 2), (16, 16, 2), (64, 64, 3))
-CLOUDS = ((3, 3, 5), (6, 6, 3), (12, 12, 1.5), (24, 24, 0.6))
+CLOUDS = ((4, 5, 5), (9, 11, 3), (20, 24, 1.6), (44, 48, 0.8))
+
+SKY = ("#6cace8", "#98c8f2", "#d4e8fa", "#ffffff")
 
 
 def marble(canvas, _):
     """Veins run where the clouds cross one height."""
     w, h = canvas.width, canvas.height
     field = Field(w, h, ((3, 3, 4), (6, 6, 2), (12, 12, 1), (40, 40, 0.3)), 7)
-    ground = Field(w, h, CLOUDS, 8)
+    ground = Field(w, h, ((3, 3, 5), (6, 6, 3), (12, 12, 1.5)), 8)
 
     def colour(x, y):
         vein = 1 - min(1, abs(field.at(x, y) - 0.5) * 16)
@@ -87,16 +89,16 @@ def lawn(canvas, _):
 
 
 def gingham(colour):
-    """A tablecloth: where two stripes cross, the colour is full."""
+    """A tablecloth: where two stripes cross, the colour is full; single stripes show their threads."""
     def draw(canvas, _):
-        ctx, half = canvas.ctx, canvas.width // 2
-        for x, y, share in ((0, 0, 0.55), (half, 0, 0.78), (0, half, 0.78), (half, half, 1)):
-            ctx.rectangle(x, y, half, half)
-            fill(ctx, lighter(colour, share))
-        for i in range(0, half, 2):
-            for x, y, w, h in ((half, i, half, 1), (i, half, 1, half)):
-                ctx.rectangle(x, y, w, h)
-                fill(ctx, lighter(colour, 0.72))
+        half = canvas.width // 2
+
+        def shade(x, y):
+            across, down = (x + half // 2) // half % 2, (y + half // 2) // half % 2
+            thread = (y if across else x) % 2
+            share = (1, 0.78 - 0.06 * thread, 0.55)[across + down]
+            return [255 * channel for channel in channels(lighter(colour, share))[:3]]
+        paint_dots(canvas, shade)
     return draw
 
 
@@ -170,11 +172,11 @@ STREWN = ((16, 16, 10), (60, 12, -25), (86, 44, 40), (36, 50, -15), (10, 78, 25)
 
 def pale_leaf(ctx, i):
     with placed(ctx, -10, 0):
-        leaf(ctx, 20, ("#e8f4d8", "#f8ecd0", "#e0f0d8")[i % 3])
+        leaf(ctx, 20, ("#e8f4d8", "#f8ecd0", "#e0f0d8")[i % 3], 0.13)
 
 
 def pale_flower(ctx, i):
-    blossom(ctx, 0, 0, (11, 8)[i % 2], ("#fce4ea", "#e8e6fa", "#fcf0d8")[i % 3], "#fcf4c0")
+    blossom(ctx, 0, 0, (11, 8)[i % 2], ("#fce4ea", "#e8e6fa", "#fcf0d8")[i % 3], "#fcf4c0", 0.1)
 
 
 def pale_note(ctx, i):
@@ -264,7 +266,7 @@ PICTURES = [
     tile("rasen.jpg", 128, lawn, quality=80), tile("rauten_blau.gif", 40, argyle, "#f2f5fa", colours=15, height=60),
     tile("rechenpapier.gif", 32, squared, colours=7), tile("sternenhimmel.gif", 160, night, colours=15),
     tile("streifen_blau.gif", 16, striped(("#eef4fc", "#e0eaf8")), height=16, colours=7),
-    tile("streifen_sonne.gif", 48, striped(("#fff8d0", "#fff0b0", "#ffe8a0")), height=16, colours=7),
-    tile("wasser.jpg", 160, water, quality=80), tile("wolken.jpg", 256, cloudy(("#7cb4ec", "#a8d0f4", "#f4faff"), CLOUDS, 5, 2.4), quality=85),
+    tile("streifen_sonne.gif", 48, striped(("#fff8d0", "#fff0b0", "#ffe8a0", "#fff0b0")), height=16, colours=7),
+    tile("wasser.jpg", 160, water, quality=80), tile("wolken.jpg", 256, cloudy(SKY, CLOUDS, 106, 2.5), quality=80),
     tile("ziegel_zart.gif", 64, bricks, colours=15),
 ]

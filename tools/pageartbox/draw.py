@@ -15,6 +15,7 @@ import moving_things
 import rules
 import sheets
 import symbols_club
+import symbols_feast
 import symbols_page
 
 COLLECTION = Path(__file__).resolve().parents[2] / "data" / "pageartbox"
@@ -26,7 +27,7 @@ FOLDERS = {
     "Hintergründe": backgrounds.PICTURES,
     "Knöpfe": buttons.PICTURES,
     "Linien": rules.PICTURES,
-    "Symbole": symbols_page.PICTURES + symbols_club.PICTURES,
+    "Symbole": symbols_page.PICTURES + symbols_club.PICTURES + symbols_feast.PICTURES,
     "Titelbilder": banners.HEADERS,
 }
 

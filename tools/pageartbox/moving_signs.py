@@ -4,7 +4,7 @@
 import math
 
 from canvas import (OUTLINE, ROUND, SANS_BOLD, ball_shade, bevel, circle, curve, darker, downwards, ellipse, fill,
-                    heart, lighter, line, placed, polygon, rightwards, rounded, star, stroke)
+                    heart, lighter, line, mixed, placed, polygon, rightwards, rounded, star, stroke)
 from picture import Picture
 from symbols_page import envelope, globe, outlined, receiver, telephone
 
@@ -21,7 +21,7 @@ def new_burst(canvas, phase):
         star(ctx, 0, 0, 30.5, 23, 14)
     fill(ctx, ball_shade(32, 22, 34, "#ffffa0", "#ffe020", "#f8a810") if lit else
          ball_shade(32, 22, 34, "#ff9080", "#e83028", "#b01418"), OUTLINE, 1.5)
-    canvas.write(32, 22, "Neu!", SANS_BOLD, 20, "#d01818" if lit else "#fff060")
+    canvas.write(32, 22, "Neu!", SANS_BOLD, 17, "#d01818" if lit else "#fff060")
 
 
 def new_ticket(canvas, phase):
@@ -43,7 +43,7 @@ def new_ticket(canvas, phase):
 def turning_letter(canvas, phase):
     ctx = canvas.ctx
     across = math.cos(2 * math.pi * phase)
-    narrow = across if abs(across) > 0.06 else 0.06
+    narrow = across if abs(across) > 0.1 else 0.1
     with placed(ctx, 24, 24):
         ctx.scale(abs(narrow), 1)
         ctx.translate(-24, -24)
@@ -77,7 +77,8 @@ def lamp(canvas, phase):
     ctx.rectangle(13, 27, 22, 5)
     outlined(ctx, "#e8b020", 1.5)
     circle(ctx, 24, 19, 11)
-    shades = [(lighter("#b86808", glow * 0.9)), lighter("#c87008", glow * 0.45), darker("#e88808", 0.35 - 0.35 * glow)]
+    dull, bright = ("#d89038", "#b86c14", "#8c4c08"), ("#fffff0", "#fff060", "#f8b010")
+    shades = [mixed(first, second, glow) for first, second in zip(dull, bright)]
     outlined(ctx, ball_shade(24, 19, 12, *shades))
     for radius in (4, 7.6):
         circle(ctx, 24, 19, radius)

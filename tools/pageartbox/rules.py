@@ -64,11 +64,11 @@ def wave(canvas, _):
         stroke(ctx, colour, width)
 
 
-def leaf(ctx, length, colour):
-    """A leaf that grows from the origin to the right."""
+def leaf(ctx, length, colour, edge=0.4):
+    """A leaf that grows from the origin to the right; `edge` tells how much darker its outline is."""
     curve(ctx, (0, 0), (length * 0.25, -length * 0.5, length * 0.75, -length * 0.4, length, 0),
           (length * 0.75, length * 0.4, length * 0.25, length * 0.5, 0, 0))
-    fill(ctx, colour, darker(colour, 0.4), 0.8)
+    fill(ctx, colour, darker(colour, edge), 0.8)
 
 
 def vine(canvas, _):
@@ -87,13 +87,13 @@ def vine(canvas, _):
             fill(ctx, "#d83848", "#8c1c2c", 0.8)
 
 
-def blossom(ctx, x, y, size, colour, heart="#f8c820"):
+def blossom(ctx, x, y, size, colour, heart="#f8c820", edge=0.3):
     for i in range(6):
         with placed(ctx, x, y, i * 60):
             ellipse(ctx, 0, -size * 0.62, size * 0.33, size * 0.42)
-            fill(ctx, colour, darker(colour, 0.3), 0.6)
+            fill(ctx, colour, darker(colour, edge), 0.6)
     circle(ctx, x, y, size * 0.34)
-    fill(ctx, heart, darker(heart, 0.3), 0.6)
+    fill(ctx, heart, darker(heart, edge), 0.6)
 
 
 def meadow(canvas, _):

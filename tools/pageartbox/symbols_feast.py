@@ -42,7 +42,7 @@ def trumpet(canvas, _):
 
 def drum(ctx, left=0.0, right=0.0):
     """A drum with its sticks; `left` and `right` (0 to 1) lift them."""
-    ctx.rectangle(7, 24, 34, 16)
+    curve(ctx, (7, 24), (7, 30, 7, 36, 7, 40), (7, 47, 41, 47, 41, 40), (41, 36, 41, 30, 41, 24))
     fill(ctx, rightwards(7, 41, "#c02830", "#f06060", "#c02830", "#901820"))
     line(ctx, (7, 24), (7, 40))
     line(ctx, (41, 24), (41, 40))
@@ -307,7 +307,7 @@ def cloud(ctx, light, dark):
 def rain(ctx, fallen=0.5):
     """A rain cloud whose drops have fallen that share (0 to 1) of their way to the ground."""
     for i, x in enumerate((12, 20, 28, 36)):
-        y = 26 + (fallen + i % 2 * 0.5) % 1 * 26
+        y = 24 + (fallen + i % 2 * 0.5) % 1 * 19
         curve(ctx, (x, y - 4.5), (x + 1, y - 2, x + 3, y, x + 3, y + 2), (x + 3, y + 5.6, x - 3, y + 5.6, x - 3, y + 2),
               (x - 3, y, x - 1, y - 2, x, y - 4.5))
         fill(ctx, "#68b4f8", "#2868b0", 1.1)
@@ -357,6 +357,6 @@ def feast(name, draw):
 PICTURES = [
     feast("akkordeon", accordion), feast("bierkrug", still(beer)), feast("geschenk", present), feast("herz", red_heart),
     feast("hund", dog), feast("katze", still(cat)), feast("luftballons", balloons), feast("maibaum", maypole), feast("noten", notes),
-    feast("osterei", easter_egg), feast("regenwolke", still(rain)), feast("sonne", still(sun)), feast("tannenbaum", still(fir)),
+    feast("osterei", easter_egg), feast("regenwolke", still(rain, 0.95)), feast("sonne", still(sun)), feast("tannenbaum", still(fir)),
     feast("torte", cake), feast("trommel", still(drum, 0.5)), feast("trompete", trumpet),
 ]
