@@ -148,10 +148,10 @@ void ClipView::PaintClip(QPainter& painter, qsizetype index) {
     if (clip.known && !clip.painted && !labelled) {
         Icons::Named(u"picture_missing").paint(&painter, ClipSheet::Thumbnail(index, {24, 24}));
     }
+    if (labelled) PaintLabel(painter, index);
     painter.setPen(palette().color(QPalette::Mid));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(frame.adjusted(0, 0, -1, -1));
-    if (labelled) PaintLabel(painter, index);
 }
 
 void ClipView::PaintLabel(QPainter& painter, qsizetype index) const {

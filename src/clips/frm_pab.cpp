@@ -104,7 +104,10 @@ void Frm_PAB::BuildLists() {
     Lvw_Folders->setMinimumWidth(FolderWidth);
     Lvw_Folders->setUniformItemSizes(true);
     connect(Lvw_Folders, &QListWidget::itemSelectionChanged, this, &Frm_PAB::SelectFolder);
-    connect(Lvw_Folders, &QListWidget::itemActivated, this, [this] { ShowFolderClips(SelectedFolder); });
+    connect(Lvw_Folders, &QListWidget::itemActivated, this, [this](QListWidgetItem* row) {
+        row->setSelected(true); // by the keys a row can be current alone
+        ShowFolderClips(SelectedFolder);
+    });
 
     Pic_ShowGraphics = new QWidget;
     Pic_ShowGraphics->setObjectName(u"Pic_ShowGraphics"_s);
@@ -126,12 +129,17 @@ void Frm_PAB::BuildLists() {
     connect(Pic_ViewScreen, &ClipView::PreviewWanted, this, &Frm_PAB::View);
     connect(Pic_ViewScreen, &ClipView::RemovalWanted, this, &Frm_PAB::KillFile);
 
+    auto* border = new QFrame; // that of a list
+    border->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    auto* scrolled = new QHBoxLayout(border);
+    scrolled->setContentsMargins({});
+    scrolled->setSpacing(0);
+    scrolled->addWidget(Pic_ShowGraphics);
+    scrolled->addWidget(Scr_ScrollGraphics);
     auto* middle = new QHBoxLayout;
-    middle->setSpacing(0);
+    middle->setSpacing(4);
     middle->addWidget(Lvw_Folders, 1);
-    middle->addSpacing(4);
-    middle->addWidget(Pic_ShowGraphics);
-    middle->addWidget(Scr_ScrollGraphics);
+    middle->addWidget(border);
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(4, 0, 4, 0);
     all->setSpacing(2);

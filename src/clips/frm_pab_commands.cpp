@@ -123,7 +123,8 @@ void Frm_PAB::InsertClip(const QString& path, Mode mode) {
     if (!Clips::CopyClip(path, chosen)) return TellFailedCopy();
     if (Global::AssistantOpen) Neighbours::RunAnimation(0, {});
     const QString address = Global::RelativePathOf(chosen, Clips::BaseOf(Global::CurrentFile));
-    InsertionPoint::Insert(mode == Mode::FileName ? address
-                                                  : Clips::ImageTag(address, Pictures::SizeOf(path),
-                                                                    Global::DocType == u"XHTML"));
+    const QString text = mode == Mode::FileName
+                             ? address
+                             : Clips::ImageTag(address, Pictures::SizeOf(path), Global::DocType == u"XHTML");
+    if (InsertionPoint::Insert(text) && parentWidget()) parentWidget()->activateWindow();
 }
