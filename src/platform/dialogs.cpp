@@ -34,8 +34,8 @@ QString OpenFileDialog(const QString& title, const QString& filter) {
     return Current() ? Current()->ChooseOpenFile({title, filter}) : QString();
 }
 
-QString SaveFileDialog(const QString& title, const QString& filter) {
-    return Current() ? Current()->ChooseSaveFile({title, filter}) : QString();
+QString SaveFileDialog(const QString& title, const QString& filter, const QString& name) {
+    return Current() ? Current()->ChooseSaveFile({title, filter, name}) : QString();
 }
 
 QString FolderDialog(const QString& title) { return Current() ? Current()->ChooseFolder(title) : QString(); }

@@ -9,7 +9,7 @@
 namespace Dialogs {
 
 enum class Icon { None, Critical, Question, Exclamation, Information };
-enum class Buttons { Ok, YesNo, YesNoCancel };
+enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class Answer { Ok, Yes, No, Cancel };
 
 struct Message {
@@ -24,6 +24,7 @@ struct FileQuestion {
     QString title;
     // "label|pattern;pattern|label|pattern ...", first group preset
     QString filter;
+    QString name = {}; // of the file, preset when saving
 };
 
 class Handler {
@@ -50,7 +51,8 @@ Answer MsgBox(const Message& message);
 void Tell(const QString& title, const QString& text, Icon icon);
 QString InputBox(const QString& prompt, const QString& title, const QString& preset = {});
 QString OpenFileDialog(const QString& title, const QString& filter);
-QString SaveFileDialog(const QString& title, const QString& filter);
+// `name` (may be empty) is the file's name, without a folder, that is preset.
+QString SaveFileDialog(const QString& title, const QString& filter, const QString& name = {});
 QString FolderDialog(const QString& title);
 // Whether the chosen `path` may be written: where a file of that name can be read it asks, with the icon and
 // the default button that the command has.

@@ -92,6 +92,8 @@ QMessageBox::StandardButtons QtButtons(Buttons buttons) {
         return QMessageBox::Yes | QMessageBox::No;
     case Buttons::YesNoCancel:
         return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case Buttons::OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
     case Buttons::Ok:
         break;
     }
@@ -129,7 +131,7 @@ Answer QtHandler::Ask(const Message& message) {
     box.setObjectName(u"MsgBox"_s);
     if (message.title.isEmpty()) box.setWindowTitle(m_programName);
     box.setTextFormat(Qt::PlainText);
-    if (message.buttons != Buttons::Ok) {
+    if (message.buttons == Buttons::YesNo || message.buttons == Buttons::YesNoCancel) {
         box.setDefaultButton(message.preset == Answer::No ? QMessageBox::No : QMessageBox::Yes);
     }
     switch (box.exec()) {
@@ -137,6 +139,8 @@ Answer QtHandler::Ask(const Message& message) {
         return Answer::Yes;
     case QMessageBox::No:
         return Answer::No;
+    case QMessageBox::Ok:
+        return Answer::Ok;
     default:
         return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
     }
@@ -163,6 +167,7 @@ QString QtHandler::ChooseFile(const FileQuestion& question, bool save) {
     dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the program asks that itself
     dialog.setNameFilters(QtFilters(question.filter));
     if (const QString folder = StartFolder(); !folder.isEmpty()) dialog.setDirectory(folder);
+    if (!question.name.isEmpty()) dialog.selectFile(question.name);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
     QString path = dialog.selectedFiles().constFirst();
     m_lastFolder = QFileInfo(path).absolutePath();

@@ -189,12 +189,15 @@ bool MakeFolder(const QString& path) { return QDir().mkpath(ToSystem(path)); }
 
 bool RemoveFolder(const QString& path) { return QDir(ToSystem(path)).removeRecursively(); }
 
-bool MoveToTrash(const QString& path) {
-    const QString system = ToSystem(path);
+bool MoveToTrashOnly(const QString& path) {
     // Without the folder that holds the trash, Qt 6.4 makes one in the current directory.
     QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
-    if (QFile::moveToTrash(system)) return true;
-    return QFileInfo(system).isDir() ? RemoveFolder(path) : Remove(path);
+    return QFile::moveToTrash(ToSystem(path));
+}
+
+bool MoveToTrash(const QString& path) {
+    if (MoveToTrashOnly(path)) return true;
+    return QFileInfo(ToSystem(path)).isDir() ? RemoveFolder(path) : Remove(path);
 }
 
 QStringList List(const QString& folder, const QStringList& patterns) {

@@ -51,6 +51,8 @@ bool MakeFolder(const QString& path);   // with its parents
 bool RemoveFolder(const QString& path); // with its contents
 // Moves a file or folder to the trash; where there is none, removes it outright. Returns whether it is gone.
 bool MoveToTrash(const QString& path);
+// The same where nothing may be lost: without a trash nothing happens, and it returns false.
+bool MoveToTrashOnly(const QString& path);
 // Names (without path) of the files in `folder` that match one of `patterns` ("temp.*").
 QStringList List(const QString& folder, const QStringList& patterns);
 std::optional<qint64> SizeOf(const QString& path);

@@ -5,6 +5,7 @@
 #include "platform/files.h"
 #include "platform/icons.h"
 #include "platform/literals.h"
+#include "platform/volumes.h"
 
 #include <QAbstractFileIconProvider>
 #include <QAction>
@@ -19,17 +20,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-// Whether people keep files there: the root, disks, and what is mounted over the network; not what the system
-// shows of itself as a file system.
-bool HoldsFiles(const QStorageInfo& volume) {
-    if (!volume.isValid() || !volume.isReady() || !QFileInfo(volume.rootPath()).isDir()) return false;
-    if (volume.isRoot()) return true;
-    const QByteArray type = volume.fileSystemType();
-    if (type == "squashfs") return false;
-    return volume.device().startsWith("/dev/") || type.startsWith("nfs") || type.startsWith("fuse") ||
-           type == "cifs" || type == "smb3";
-}
 
 // The program's own drawings; desktops without a theme have none.
 class FolderIcons : public QAbstractFileIconProvider {
@@ -114,8 +104,7 @@ void FolderChooser::Follow() {
 }
 
 void FolderChooser::FillDrives() {
-    for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
-        if (!HoldsFiles(volume)) continue;
+    for (const QStorageInfo& volume : Volumes::Mounted()) {
         const QString root = volume.rootPath();
         const QString name = volume.name();
         Drv_Drive->addItem(Icons::Named(u"drive"), name.isEmpty() ? root : root + u" ["_s + name + u']',

@@ -3,6 +3,8 @@
 #include "state/windows.h"
 #include "assistant/frm_assistant.h"
 #include "assistant/frm_help.h"
+#include "clips/frm_pab.h"
+#include "clips/frm_pab_preview.h"
 #include "debugger/frm_debug.h"
 #include "documents/frm_code.h"
 #include "editing/frm_line_zoom.h"
@@ -101,6 +103,8 @@ constexpr Row AllWindows[] = {
     Modal<Frm_InsertScript>(u"Frm_InsertScript", u"Menu_Insert_Script"),
     Modal<Frm_InsertStyle>(u"Frm_InsertStyle", u"Menu_Insert_Style"),
     Modal<Frm_DefaultStyles>(u"Frm_DefaultStyles", u"Menu_Insert_StyleDefault"),
+    Tool<Frm_PAB>(u"Frm_PAB", u"Menu_Insert_PageArtBox"),
+    Modal<Frm_PABPreView>(u"Frm_PABPreView"),
     Tool<Frm_FormatSubClass>(u"Frm_FormatSubClass", u"Menu_View_FormatSubClass"),
     Tool<Frm_Search>(u"Frm_Search", u"Menu_Edit_Search"),
     Modal<Frm_UmlCorrection>(u"Frm_UmlCorrection", u"Menu_Tools_Uml"),
