@@ -9,7 +9,7 @@ packages="g++ cmake ninja-build ccache pkg-config libgl1-mesa-dev libvulkan-dev
     qt6-translations-l10n fonts-liberation libcurl4-openssl-dev"
 case "${1:-build}" in
 run) packages="$packages xvfb xauth imagemagick" ;;
-test) packages="$packages clang-format xvfb xauth curl openssl python3-pyftpdlib vsftpd" ;;
+test) packages="$packages clang-format xvfb xauth curl openssl python3-pyftpdlib vsftpd poppler-utils" ;;
 esac
 
 missing=""

@@ -71,7 +71,7 @@ bool Txt_Code::event(QEvent* event) {
 
 void Txt_Code::keyPressEvent(QKeyEvent* event) {
     if (events.keyDown) events.keyDown(KeyNumber(*event), ShiftMask(event->modifiers()));
-    if (event->key() == Qt::Key_Space && ShiftMask(event->modifiers()) == 2) {
+    if (event->key() == Qt::Key_Space && ShiftMask(event->modifiers()) == 2 && !isReadOnly()) {
         // Control+Space is meant to type its blank: it ends the word, and completion steps back over it.
         insertPlainText(u" "_s);
         return;

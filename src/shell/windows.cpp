@@ -25,6 +25,8 @@
 #include "preview/frm_browser.h"
 #include "preview/frm_navigation.h"
 #include "preview/wire_preview.h"
+#include "printing/frm_print.h"
+#include "printing/frm_print_preview.h"
 #include "project/frm_page_info.h"
 #include "project/frm_project_back_up.h"
 #include "project/frm_project_manager.h"
@@ -109,6 +111,8 @@ constexpr Row AllWindows[] = {
     Tool<Frm_Search>(u"Frm_Search", u"Menu_Edit_Search"),
     Modal<Frm_UmlCorrection>(u"Frm_UmlCorrection", u"Menu_Tools_Uml"),
     Modal<Frm_DeleteComments>(u"Frm_DeleteComments", u"Menu_Tools_DeleteComment"),
+    Modal<Frm_Print>(u"Frm_Print", u"Menu_File_Print"),
+    Modal<Frm_PrintPreView>(u"Frm_PrintPreView", u"Menu_View_SyntaxPreView"),
     Modal<Frm_SpellingCheck>(u"Frm_SpellingCheck", u"Menu_Tools_SpellingCheck"),
 };
 
