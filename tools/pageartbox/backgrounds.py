@@ -83,7 +83,8 @@ def lawn(canvas, _):
         shade = source.choice(("#98cc6c", "#b0dc84", "#8cc460", "#bce494"))
 
         def blade(ctx):
-            curve(ctx, (-1.1, 0), (-1, -length / 2, lean, -length, lean, -length), (lean, -length, 1.4, -length / 2, 1.1, 0))
+            curve(ctx, (-1.1, 0), (-1, -length / 2, lean, -length, lean, -length),
+                  (lean, -length, 1.4, -length / 2, 1.1, 0))
             fill(ctx, shade)
         everywhere(canvas, source.uniform(0, w), source.uniform(0, h), 14, blade)
 
@@ -253,7 +254,8 @@ PICTURES = [
     tile("blumen_zart.gif", 100, scattered(STREWN, 14, pale_flower)),
     tile("damast_creme.gif", 72, damask, "#fbf6ea", colours=15, height=80),
     tile("holz_hell.jpg", 256, wood, quality=78),
-    tile("karo_blau.gif", 32, gingham("#2860c0"), colours=15), tile("karo_gruen.gif", 32, gingham("#2c9038"), colours=15),
+    tile("karo_blau.gif", 32, gingham("#2860c0"), colours=15),
+    tile("karo_gruen.gif", 32, gingham("#2c9038"), colours=15),
     tile("karo_rot.gif", 32, gingham("#d02838"), colours=15), tile("leinen.jpg", 96, linen, quality=80),
     tile("marmor_hell.jpg", 240, marble, quality=80), tile("metall.jpg", 128, weave, quality=75),
     tile("noten_zart.gif", 100, scattered(STREWN, 18, pale_note), colours=15),

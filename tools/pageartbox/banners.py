@@ -4,7 +4,8 @@
 import math
 import random
 
-from canvas import (ELEGANT_BOLD, OUTLINE, ROUND, SANS_BOLD, ball_shade, bevel, circle, curve, darker, downwards, ellipse,
+from canvas import (ELEGANT_BOLD, OUTLINE, ROUND, SANS_BOLD, ball_shade, bevel, circle, curve, darker, downwards,
+                    ellipse,
                     fill, lighter, line, mixed, placed, polygon, rightwards, rounded, stroke)
 from picture import Picture
 from rules import beamed, blossom, football, leaf, note
@@ -21,7 +22,8 @@ def hills(ctx, base, height, waves, shift, *colours):
     """A range of hills whose outline is a sum of two waves."""
     def top(x):
         around = 2 * math.pi * x / WIDTH
-        return base - height * (0.6 * math.sin(waves * around + shift) + 0.4 * math.sin((waves * 2.3) * around + shift * 2))
+        broad, narrow = math.sin(waves * around + shift), math.sin(waves * 2.3 * around + shift * 2)
+        return base - height * (0.6 * broad + 0.4 * narrow)
     ctx.move_to(0, HEIGHT)
     for x in range(0, WIDTH + 2, 2):
         ctx.line_to(x, top(x))
@@ -42,7 +44,8 @@ def round_tree(ctx, x, y, size, colour):
     fill(ctx, "#70482c")
     for dx, dy, radius in ((-0.22, -0.62, 0.26), (0.22, -0.62, 0.26), (0, -0.85, 0.3), (0, -0.55, 0.25)):
         circle(ctx, x + dx * size, y + dy * size, radius * size)
-        fill(ctx, ball_shade(x + dx * size, y + dy * size, radius * size, lighter(colour, 0.3), colour, darker(colour, 0.2)))
+        fill(ctx, ball_shade(x + dx * size, y + dy * size, radius * size, lighter(colour, 0.3), colour,
+                             darker(colour, 0.2)))
 
 
 def small_house(ctx, x, y, width, wall, roof):
@@ -142,7 +145,8 @@ def village(canvas, _):
     church(ctx, 262, 93)
     for x, size in ((58, 34), (118, 40), (232, 38), (312, 44), (440, 36), (496, 42)):
         round_tree(ctx, x, 98, size, "#509840")
-    curve(ctx, (250, HEIGHT), (268, 102, 266, 98, 268, 93), (276, 93, 280, 93, 280, 93), (284, 100, 296, 104, 312, HEIGHT))
+    curve(ctx, (250, HEIGHT), (268, 102, 266, 98, 268, 93), (276, 93, 280, 93, 280, 93),
+          (284, 100, 296, 104, 312, HEIGHT))
     fill(ctx, "#e8d8b0")
 
 
@@ -166,7 +170,8 @@ def evening(canvas, _):
     for x, base in ((-6, 10), (30, 5), (62, 12)):
         for i in range(9):
             lean = (i - 4) * 3.2
-            curve(ctx, (x + i * 3, HEIGHT), (x + i * 3, 96, x + i * 3 + lean, 88, x + i * 3 + lean * 1.4, 66 + base + abs(lean)))
+            foot = x + i * 3
+            curve(ctx, (foot, HEIGHT), (foot, 96, foot + lean, 88, foot + lean * 1.4, 66 + base + abs(lean)))
             stroke(ctx, "#201838", 1.4)
 
 
@@ -180,7 +185,8 @@ def winter(canvas, _):
             y = top(x) + 6
             polygon(ctx, (x, y - up * size), (x + half * size, y - low * size), (x - half * size, y - low * size))
             fill(ctx, rightwards(x - half * size, x + half * size, "#487c68", "#244c44"))
-            polygon(ctx, (x, y - up * size), (x + half * size * 0.6, y - (up - (up - low) * 0.6) * size), (x, y - (up - 0.1) * size),
+            polygon(ctx, (x, y - up * size), (x + half * size * 0.6, y - (up - (up - low) * 0.6) * size),
+                    (x, y - (up - 0.1) * size),
                     (x - half * size * 0.6, y - (up - (up - low) * 0.6) * size))
             fill(ctx, "#ffffff")
     small_house(ctx, 246, 92, 46, "#e8c898", "#f8fcff")
@@ -216,7 +222,8 @@ def autumn(canvas, _):
     for i in range(90):
         x, y = source.uniform(0, WIDTH), HEIGHT * (1 - source.random() ** 2.2 * 0.95)
         with placed(ctx, x, y, source.uniform(0, 360)):
-            leaf(ctx, source.uniform(16, 28), source.choice(("#d85820", "#e88828", "#c83820", "#f0b030", "#98782c", "#b04c18")))
+            leaf(ctx, source.uniform(16, 28), source.choice(("#d85820", "#e88828", "#c83820", "#f0b030", "#98782c",
+                                                             "#b04c18")))
             line(ctx, (-4, 0), (12, 0))
             stroke(ctx, "#7c4014", 0.9)
 

@@ -172,7 +172,8 @@ PICTURES = [
     mark("herz_rot", red_heart), mark("karte_gelb", card), mark("moehre", carrot), mark("note_blau", quaver),
     mark("pfeil_blau", arrow("#2868d0")), mark("pfeil_gruen", arrow("#30a040")), mark("pfeil_rot", arrow("#d83030")),
     mark("pfote_braun", paw_print), mark("pinnadel_rot", pin), mark("quadrat_blau", key("#3868c0")),
-    mark("quadrat_grau", key("#c0c0c0")), mark("raute_blau", diamond("#4070c0")), mark("raute_gold", diamond("#d8a828")),
+    mark("quadrat_grau", key("#c0c0c0")), mark("raute_blau", diamond("#4070c0")),
+    mark("raute_gold", diamond("#d8a828")),
     mark("ring_blau", ring("#304878")), mark("ring_rot", ring("#902838")), mark("sonne_gelb", sun),
     mark("stern_gelb", yellow_star), mark("stift_gelb", pencil),
 ]

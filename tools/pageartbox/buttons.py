@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: MIT
 """Knöpfe: buttons with German lettering in four styles, and arrow keys without words."""
 
-from canvas import (ELEGANT, OUTLINE, ROUND, SANS_BOLD, ball_shade, bevel, circle, darker, downwards, fill, lighter, line,
+from canvas import (ELEGANT, OUTLINE, ROUND, SANS_BOLD, ball_shade, bevel, circle, darker, downwards, fill, lighter,
+                    line,
                     placed, polygon, rounded, stroke)
 from picture import Picture
 
@@ -98,7 +99,8 @@ def round_key(shape, colour):
         ctx = canvas.ctx
         with placed(ctx, scale=32 / 24):
             circle(ctx, 12, 12, 11.4)
-            fill(ctx, ball_shade(12, 12, 12, lighter(colour, 0.75), colour, darker(colour, 0.35)), darker(colour, 0.55), 1)
+            fill(ctx, ball_shade(12, 12, 12, lighter(colour, 0.75), colour, darker(colour, 0.35)),
+                 darker(colour, 0.55), 1)
             with placed(ctx, 2.2, 2.2, scale=0.82):
                 shape(ctx)
             if shape is _letter:

@@ -3,7 +3,7 @@
 
 import math
 
-from canvas import (OUTLINE, ROUND, SANS_BOLD, ball_shade, bevel, circle, curve, darker, downwards, ellipse, fill,
+from canvas import (OUTLINE, SANS_BOLD, ball_shade, circle, curve, darker, downwards, ellipse, fill,
                     heart, lighter, line, mixed, placed, polygon, rightwards, rounded, star, stroke)
 from picture import Picture
 from symbols_page import envelope, globe, outlined, receiver, telephone
@@ -262,7 +262,8 @@ def moving(name, width, height, draw, frames, delay, ground=None, colours=31):
 PICTURES = [
     moving("baulampe", 48, 48, lamp, 8, 10), moving("baustelle_schranke", 180, 60, barrier, 2, 50),
     moving("brief_dreht", 48, 48, turning_letter, 16, 8), moving("fahne_weht", 66, 62, flag, 10, 8, colours=63),
-    moving("herz_schlaegt", 44, 46, beating, 12, 8), moving("linie_baustelle", 480, 12, running_hazard, 8, 10, "#ffffff", 15),
+    moving("herz_schlaegt", 44, 46, beating, 12, 8),
+    moving("linie_baustelle", 480, 12, running_hazard, 8, 10, "#ffffff", 15),
     moving("linie_lichter", 480, 16, chasing_lights, 3, 30), moving("neu_blinkt", 64, 44, new_burst, 2, 50),
     moving("neu_glanz", 36, 16, new_ticket, 12, [40] + [7] * 11), moving("pfeil_wippt", 48, 36, pointing, 10, 7),
     moving("punkt_blau", 16, 16, pulsing("#2868e0"), 10, 9), moving("punkt_rot", 16, 16, pulsing("#e02828"), 10, 9),

@@ -32,7 +32,8 @@ def candle(canvas, phase):
     outlined(ctx, downwards(53, 61, "#fff0a0", "#c88818"), 1.5)
     ctx.rectangle(14, 26, 12, 30)
     outlined(ctx, rightwards(14, 26, "#ffffff", "#fff0d8", "#e8c8a0"), 1.5)
-    curve(ctx, (14, 27), (14, 24, 26, 24, 26, 27), (26, 30, 25, 36, 23.5, 36), (22, 36, 22.5, 31, 20, 31), (17, 31, 16, 29, 14, 27))
+    curve(ctx, (14, 27), (14, 24, 26, 24, 26, 27), (26, 30, 25, 36, 23.5, 36), (22, 36, 22.5, 31, 20, 31),
+          (17, 31, 16, 29, 14, 27))
     outlined(ctx, "#fffaf0", 1.2)
     line(ctx, (20, 26), (20, 22.5))
     stroke(ctx, OUTLINE, 1.6)
@@ -239,7 +240,8 @@ def writing(canvas, phase):
 PICTURES = [
     moving("ball_huepft", 44, 76, bouncing_ball, 12, 6, colours=15), moving("biene_fliegt", 96, 60, flying_bee, 24, 7),
     moving("bier_prost", 112, 72, toast, 12, 9), moving("giesskanne_giesst", 84, 80, watering, 10, 9),
-    moving("kaffee_dampft", 52, 58, steaming, 10, 12), moving("katze_blinzelt", 48, 48, blinking_cat, 8, [200, 5, 5, 5, 6, 6, 6, 6]),
+    moving("kaffee_dampft", 52, 58, steaming, 10, 12),
+    moving("katze_blinzelt", 48, 48, blinking_cat, 8, [200, 5, 5, 5, 6, 6, 6, 6]),
     moving("kerze_flackert", 40, 64, candle, 12, 9), moving("maulwurf", 64, 64, mole, 20, [40] + [8] * 19),
     moving("noten_tanzen", 100, 48, dancing_notes, 12, 9, colours=15), moving("regen", 48, 52, falling_rain, 8, 9),
     moving("schmetterling_flattert", 48, 54, fluttering, 8, 9), moving("sonne_strahlt", 50, 50, shining_sun, 8, 12),

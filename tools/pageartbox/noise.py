@@ -35,7 +35,8 @@ class Field:
 
     def __init__(self, width, height, layers, seed):
         self._width, self._height = width, height
-        self._layers = [(lattice(columns, rows, seed * 100 + i), weight) for i, (columns, rows, weight) in enumerate(layers)]
+        self._layers = [(lattice(columns, rows, seed * 100 + i), weight)
+                        for i, (columns, rows, weight) in enumerate(layers)]
         self._total = sum(weight for _, _, weight in layers)
 
     def at(self, x, y):

@@ -3,7 +3,7 @@
 
 import math
 
-from canvas import (OUTLINE, ball_shade, circle, curve, darker, downwards, ellipse, fill, line, lighter, mixed, placed,
+from canvas import (ball_shade, circle, curve, darker, downwards, ellipse, fill, line, lighter, mixed, placed,
                     polygon, rightwards, rounded, star, stroke)
 from picture import Picture
 
@@ -27,7 +27,8 @@ def etched(canvas, _):
 def tube(colour):
     def draw(canvas, _):
         rounded(canvas.ctx, 0, 0, WIDTH, 8, 4)
-        shades = (darker(colour, 0.35), colour, lighter(colour, 0.75), colour, darker(colour, 0.3), darker(colour, 0.55))
+        shades = (darker(colour, 0.35), colour, lighter(colour, 0.75), colour, darker(colour, 0.3),
+                  darker(colour, 0.55))
         fill(canvas.ctx, downwards(0, 8, *shades))
     return draw
 
@@ -107,7 +108,8 @@ def meadow(canvas, _):
         y = (10, 8, 12)[i % 3]
         curve(ctx, (x, 25), (x - 2, 20, x + 1, 16, x, y))
         stroke(ctx, "#388828", 1.4)
-        blossom(ctx, x, y, 7, ("#f06878", "#ffffff", "#8078e0", "#f8a830")[i % 4], "#f8d030" if i % 4 < 3 else "#8c4818")
+        blossom(ctx, x, y, 7, ("#f06878", "#ffffff", "#8078e0", "#f8a830")[i % 4],
+                "#f8d030" if i % 4 < 3 else "#8c4818")
 
 
 def note(ctx, x, y, colour, tail=True):
@@ -149,8 +151,8 @@ def football(ctx, x, y, radius, turn=0):
     circle(ctx, x, y, radius)
     ctx.clip()
     with placed(ctx, x, y, turn, radius):
-        star_points = [(0.36 * math.cos(math.radians(a)), 0.36 * math.sin(math.radians(a))) for a in range(-90, 270, 72)]
-        polygon(ctx, *star_points)
+        corners = [math.radians(a) for a in range(-90, 270, 72)]
+        polygon(ctx, *((0.36 * math.cos(a), 0.36 * math.sin(a)) for a in corners))
         fill(ctx, "#282828")
         for a in range(-90, 270, 72):
             c, s = math.cos(math.radians(a)), math.sin(math.radians(a))
@@ -273,7 +275,7 @@ def stars(canvas, _):
 
 def stitches(canvas, _):
     ctx = canvas.ctx
-    for i, x in every(2, 16):
+    for i, x in every(2, 16, WIDTH - 10):
         rounded(ctx, x, 1, 12, 4, 2)
         fill(ctx, mixed("#c03048", "#e890a0", i % 2))
 
@@ -288,7 +290,8 @@ PICTURES = [
     rule("elegant_rot", 11, diamond_rule("#902838")), rule("fussball", 20, balls, colours=15),
     rule("gartenzaun", 30, fence, colours=31), rule("gold", 5, gold), rule("grau_relief", 4, etched, ground="#ffffff"),
     rule("naht_rot", 6, stitches, ground="#ffffff", colours=15), rule("noten", 34, staff, ground="#ffffff", colours=15),
-    rule("perlen", 12, pearls, ground="#ffffff"), rule("pfoten", 28, paws, colours=7), rule("regenbogen", 6, rainbow, ground="#ffffff", colours=250),
+    rule("perlen", 12, pearls, ground="#ffffff"), rule("pfoten", 28, paws, colours=7),
+    rule("regenbogen", 6, rainbow, ground="#ffffff", colours=250),
     rule("rohr_blau", 8, tube("#2868c8")), rule("rohr_gruen", 8, tube("#2c9040")), rule("rohr_rot", 8, tube("#c82c30")),
     rule("schnoerkel", 26, flourish, width=300, ground="#ffffff", colours=15), rule("seil", 10, rope, colours=31),
     rule("sterne", 20, stars, colours=31), rule("verlauf_blau", 3, fading("#1c4ca0"), ground="#ffffff"),

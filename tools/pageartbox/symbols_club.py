@@ -117,7 +117,8 @@ def carrots(canvas, _):
 
 def apple(canvas, _):
     ctx = canvas.ctx
-    curve(ctx, (24, 15), (16, 8, 5, 13, 5, 26), (5, 38, 14, 47, 24, 42.5), (34, 47, 43, 38, 43, 26), (43, 13, 32, 8, 24, 15))
+    curve(ctx, (24, 15), (16, 8, 5, 13, 5, 26), (5, 38, 14, 47, 24, 42.5), (34, 47, 43, 38, 43, 26),
+          (43, 13, 32, 8, 24, 15))
     outlined(ctx, ball_shade(22, 26, 22, "#ffb0a0", "#e83830", "#a81820"))
     curve(ctx, (24, 16), (23, 11, 24, 7, 26, 4))
     stroke(ctx, OUTLINE, 2.8)
@@ -193,7 +194,8 @@ def cup(canvas, _):
             stroke(ctx, OUTLINE, 5)
             curve(ctx, (12, 10), (22, 8, 20, 22, 9, 24))
             stroke(ctx, "#e8b828", 2)
-    curve(ctx, (11, 5), (11, 20, 16, 28, 22, 29), (22, 29, 22, 36, 22, 36), (22, 36, 26, 36, 26, 36), (26, 36, 26, 29, 26, 29),
+    curve(ctx, (11, 5), (11, 20, 16, 28, 22, 29), (22, 29, 22, 36, 22, 36), (22, 36, 26, 36, 26, 36),
+          (26, 36, 26, 29, 26, 29),
           (32, 28, 37, 20, 37, 5))
     ctx.close_path()
     outlined(ctx, rightwards(11, 37, "#fff8b0", "#f8d040", "#d89818", "#f8d858"))
@@ -282,6 +284,7 @@ def club(name, draw, size=48):
 PICTURES = [
     club("apfel", apple), club("baum", tree), club("biene", honey_bee), club("fussball", ball),
     club("giesskanne", watering_can), club("medaille", medal), club("moehren", carrots), club("pfeife", whistle),
-    club("pokal", cup), club("schmetterling", lambda canvas, _: butterfly(canvas.ctx)), club("sonnenblume", sunflower), club("spaten", spade),
+    club("pokal", cup), club("schmetterling", lambda canvas, _: butterfly(canvas.ctx)), club("sonnenblume", sunflower),
+    club("spaten", spade),
     club("tennis", tennis), club("trikot", shirt), club("tulpe", tulip),
 ]

@@ -133,7 +133,8 @@ def cake(canvas, _):
     outlined(ctx, downwards(19, 40, "#f8dca0", "#d8a050"))
     ctx.rectangle(6, 29, 36, 3)
     fill(ctx, "#d83848")
-    curve(ctx, (6, 27), (6, 22, 6, 18, 12, 18), (12, 18, 36, 18, 36, 18), (42, 18, 42, 22, 42, 27), (40, 31, 36, 31, 34, 26),
+    curve(ctx, (6, 27), (6, 22, 6, 18, 12, 18), (12, 18, 36, 18, 36, 18), (42, 18, 42, 22, 42, 27),
+          (40, 31, 36, 31, 34, 26),
           (32, 32, 28, 32, 26, 26), (24, 33, 20, 32, 18, 26), (15, 31, 11, 31, 6, 27))
     outlined(ctx, "#ffe4ec")
     ellipse(ctx, 24, 41, 21, 3.4)
@@ -145,7 +146,8 @@ def balloons(canvas, _):
     for x, y in ((13, 17), (35, 18), (24, 13)):
         curve(ctx, (x, y + 10), (x, y + 18, 24, 34, 24, 46))
         stroke(ctx, "#706860", 1.2)
-    for x, y, light, colour, dark in ((13, 17, "#c0dcff", "#4890e8", "#2058a8"), (35, 18, "#fff8a8", "#f8c828", "#c08810"),
+    for x, y, light, colour, dark in ((13, 17, "#c0dcff", "#4890e8", "#2058a8"),
+                                      (35, 18, "#fff8a8", "#f8c828", "#c08810"),
                                       (24, 13, "#ffb8b8", "#f04848", "#a81820")):
         polygon(ctx, (x - 2.5, y + 14), (x, y + 10), (x + 2.5, y + 14))
         outlined(ctx, dark, 1.2)
@@ -174,7 +176,8 @@ def easter_egg(canvas, _):
     ctx = canvas.ctx
 
     def shell():
-        curve(ctx, (24, 4), (33, 4, 40, 18, 40, 28), (40, 38, 33, 44, 24, 44), (15, 44, 8, 38, 8, 28), (8, 18, 15, 4, 24, 4))
+        curve(ctx, (24, 4), (33, 4, 40, 18, 40, 28), (40, 38, 33, 44, 24, 44), (15, 44, 8, 38, 8, 28),
+              (8, 18, 15, 4, 24, 4))
     ctx.save()
     shell()
     ctx.clip()
@@ -226,7 +229,8 @@ def whiskers(ctx, y):
 
 def cat(ctx, lids=0.0):
     """A cat's head; `lids` tells how far its eyes are shut (0 to 1)."""
-    curve(ctx, (6, 7), (9, 6, 14, 9, 18, 12), (22, 10.5, 26, 10.5, 30, 12), (34, 9, 39, 6, 42, 7), (43, 13, 43, 18, 42, 24),
+    curve(ctx, (6, 7), (9, 6, 14, 9, 18, 12), (22, 10.5, 26, 10.5, 30, 12), (34, 9, 39, 6, 42, 7),
+          (43, 13, 43, 18, 42, 24),
           (42, 37, 34, 43, 24, 43), (14, 43, 6, 37, 6, 24), (5, 18, 5, 13, 6, 7))
     outlined(ctx, ball_shade(24, 24, 24, "#ffd090", "#f4a040", "#e08020"))
     for side in (-1, 1):
@@ -253,7 +257,8 @@ def cat(ctx, lids=0.0):
 
 def dog(canvas, _):
     ctx = canvas.ctx
-    curve(ctx, (10, 16), (12, 5, 36, 5, 38, 16), (40, 24, 37, 30, 34, 33), (34, 42, 30, 45, 24, 45), (18, 45, 14, 42, 14, 33),
+    curve(ctx, (10, 16), (12, 5, 36, 5, 38, 16), (40, 24, 37, 30, 34, 33), (34, 42, 30, 45, 24, 45),
+          (18, 45, 14, 42, 14, 33),
           (11, 30, 8, 24, 10, 16))
     outlined(ctx, ball_shade(24, 22, 22, "#e8c090", "#c89050", "#a87038"))
     ellipse(ctx, 24, 36, 9.4, 8)
@@ -356,7 +361,9 @@ def feast(name, draw):
 
 PICTURES = [
     feast("akkordeon", accordion), feast("bierkrug", still(beer)), feast("geschenk", present), feast("herz", red_heart),
-    feast("hund", dog), feast("katze", still(cat)), feast("luftballons", balloons), feast("maibaum", maypole), feast("noten", notes),
-    feast("osterei", easter_egg), feast("regenwolke", still(rain, 0.95)), feast("sonne", still(sun)), feast("tannenbaum", still(fir)),
+    feast("hund", dog), feast("katze", still(cat)), feast("luftballons", balloons), feast("maibaum", maypole),
+    feast("noten", notes),
+    feast("osterei", easter_egg), feast("regenwolke", still(rain, 0.95)), feast("sonne", still(sun)),
+    feast("tannenbaum", still(fir)),
     feast("torte", cake), feast("trommel", still(drum, 0.5)), feast("trompete", trumpet),
 ]
