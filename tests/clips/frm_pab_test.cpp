@@ -19,16 +19,13 @@ using Dialogs::Answer;
 class FrmPabTest : public ProgramTest {
     Q_OBJECT
 
-    // An animated GIF of two frames, one pixel each, on a screen of that size.
+    // An animated GIF of two frames that fill the picture, of which little more than a pixel is told.
     static QByteArray Gif(int width, int height) {
-        QByteArray gif("GIF89a");
-        for (const int length : {width, height}) gif += char(length & 255), gif += char(length >> 8);
-        gif += QByteArray::fromHex("800000ff0000ffffff");
-        for (int i = 0; i < 2; ++i) {
-            gif += QByteArray::fromHex("21f904000a000000");
-            gif += QByteArray::fromHex("2c0000000001000100000202") + QByteArray::fromHex("440100");
-        }
-        return gif + ';';
+        QByteArray size;
+        for (const int length : {width, height}) size.append(char(length & 255)).append(char(length >> 8));
+        const QByteArray frame = QByteArray::fromHex("21f904000a000000") + QByteArray::fromHex("2c00000000") +
+                                 size + QByteArray::fromHex("000202440100");
+        return "GIF89a" + size + QByteArray::fromHex("800000ff0000ffffff") + frame + frame + ';';
     }
     static QByteArray Picture(int width, int height, const char* format, QColor color = Qt::red) {
         QImage image(width, height, QImage::Format_RGB32);
