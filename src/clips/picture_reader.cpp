@@ -68,6 +68,11 @@ bool IsProgressive(QIODevice& file) {
     return progressive;
 }
 
+// Once: the limit is the program's, and threads read.
+void BoundMemory() {
+    [[maybe_unused]] static const bool bound = (QImageReader::setAllocationLimit(AllocationLimit), true);
+}
+
 bool IsTurned(const QImageReader& reader) {
     return reader.transformation() & QImageIOHandler::TransformationRotate90;
 }
@@ -98,7 +103,7 @@ Picture Read(const QString& path, const std::function<QSize(QSize)>& wanted,
     if (!file.Open()) return {};
     const QByteArray format = FormatOf(file);
     if (format.isEmpty()) return {};
-    QImageReader::setAllocationLimit(AllocationLimit);
+    BoundMemory();
     QImageReader reader(&file, format);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
