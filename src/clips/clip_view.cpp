@@ -160,10 +160,10 @@ void ClipView::PaintLabel(QPainter& painter, qsizetype index) const {
                      QSize(ClipSheet::LabelWidth, 2 * fontMetrics().height() + 2));
     const int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
     const QRect written = painter.boundingRect(room, flags, text).adjusted(-2, 0, 2, 1);
-    QColor ground = palette().color(QPalette::Base);
+    QColor ground = Ground;
     ground.setAlpha(225);
     painter.fillRect(written, ground);
-    painter.setPen(palette().color(QPalette::Text));
+    painter.setPen(Qt::black);
     painter.drawText(room, flags, text);
 }
 

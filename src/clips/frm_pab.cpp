@@ -57,6 +57,7 @@ void Frm_PAB::BuildToolBar() {
         auto* button = qobject_cast<QToolButton*>(ToolBar->widgetForAction(action));
         auto* menu = new QMenu(button);
         button->setMenu(menu);
+        button->installEventFilter(this);
         button->setPopupMode(QToolButton::MenuButtonPopup);
         connect(menu, &QMenu::aboutToShow, this, &Frm_PAB::ActivateButtons);
         return menu;
@@ -287,19 +288,27 @@ void Frm_PAB::BringChosenIntoSight() {
         Pic_ViewScreen->Chosen(), Scr_ScrollGraphics->value(), Pic_ShowGraphics->height()));
 }
 
-// The wheel does not go on behind the last row, where the bar's steps lead.
 bool Frm_PAB::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != Pic_ShowGraphics || event->type() != QEvent::Wheel)
-        return QDialog::eventFilter(watched, event);
-    m_wheel += static_cast<QWheelEvent*>(event)->angleDelta().y();
+    if (watched == Pic_ShowGraphics && event->type() == QEvent::Wheel) {
+        Wheel(static_cast<QWheelEvent*>(event)->angleDelta().y());
+        return true;
+    }
+    auto* button = qobject_cast<QToolButton*>(watched);
+    const bool down =
+        event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down;
+    if (!button || !down) return QDialog::eventFilter(watched, event);
+    button->showMenu(); // which the keys reach by nothing else
+    return true;
+}
+
+// The wheel does not go on behind the last row, where the bar's steps lead.
+void Frm_PAB::Wheel(int angle) {
+    m_wheel += angle;
     const int steps = m_wheel / WheelStep;
     m_wheel -= steps * WheelStep;
     const int value = Scr_ScrollGraphics->value();
     const int last =
         ClipSheet::ValueThatShows(Pic_ViewScreen->Count() - 1, value, Pic_ShowGraphics->height());
-    const int greatest = std::max(value, last);
-    if (steps != 0 && Scr_ScrollGraphics->isEnabled()) {
-        Scr_ScrollGraphics->setValue(std::min(value - steps, greatest));
-    }
-    return true;
+    if (steps == 0 || !Scr_ScrollGraphics->isEnabled()) return;
+    Scr_ScrollGraphics->setValue(std::min(value - steps, std::max(value, last)));
 }

@@ -54,6 +54,7 @@ private:
     void ShowProgress(int percent);
     void Scroll(int value);
     void BringChosenIntoSight();
+    void Wheel(int angle); // eighths of a degree
 
     void View();
     void ImportClipFile();

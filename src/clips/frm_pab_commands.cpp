@@ -3,6 +3,7 @@
 #include "clips/clip_folder.h"
 #include "clips/clip_root.h"
 #include "clips/clip_tag.h"
+#include "clips/clip_view.h"
 #include "clips/frm_pab.h"
 #include "clips/frm_pab_preview.h"
 #include "clips/picture_reader.h"
@@ -123,8 +124,10 @@ void Frm_PAB::InsertClip(const QString& path, Mode mode) {
     if (!Clips::CopyClip(path, chosen)) return TellFailedCopy();
     if (Global::AssistantOpen) Neighbours::RunAnimation(0, {});
     const QString address = Global::RelativePathOf(chosen, Clips::BaseOf(Global::CurrentFile));
-    const QString text = mode == Mode::FileName
-                             ? address
-                             : Clips::ImageTag(address, Pictures::SizeOf(path), Global::DocType == u"XHTML");
+    // what is on the sheet has been read already
+    QSize size = path == SelectedClip ? Pic_ViewScreen->SizeOf(Pic_ViewScreen->Chosen()) : QSize();
+    if (mode == Mode::ImgTag && !size.isValid()) size = Pictures::SizeOf(path);
+    const QString text =
+        mode == Mode::FileName ? address : Clips::ImageTag(address, size, Global::DocType == u"XHTML");
     if (InsertionPoint::Insert(text) && parentWidget()) parentWidget()->activateWindow();
 }

@@ -5,6 +5,7 @@
 #include "platform/literals.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QMutex>
 #include <algorithm>
@@ -26,7 +27,10 @@ constexpr const char* Formats[] = {"gif", "jpeg", "jpg", "bmp", "dib", "ico", "c
 // A file that ends when its reader is stopped.
 class StoppableFile : public QFile {
 public:
-    StoppableFile(const QString& path, const std::atomic<bool>* stopped) : QFile(path), m_stopped(stopped) {}
+    StoppableFile(const QString& path, const std::atomic<bool>* stopped)
+        : QFile(Files::ToSystem(path)), m_stopped(stopped) {}
+    // A pipe would wait for its writer, a device may have no end.
+    bool Open() { return QFileInfo(*this).isFile() && open(QIODevice::ReadOnly); }
 
 protected:
     qint64 readData(char* data, qint64 length) override {
@@ -48,7 +52,7 @@ bool IsProgressive(QIODevice& file) {
     constexpr int Segments = 500; // more than any picture has before its frame
     const qint64 begin = file.pos();
     bool progressive = false;
-    file.seek(begin + 2);
+    file.seek(2); // behind the mark of the format
     for (int i = 0; i < Segments; ++i) {
         const QByteArray head = file.read(4);
         if (head.size() < 4 || static_cast<uchar>(head[0]) != 0xff) break;
@@ -62,6 +66,11 @@ bool IsProgressive(QIODevice& file) {
     }
     file.seek(begin);
     return progressive;
+}
+
+// Once: the limit is the program's, and threads read.
+void BoundMemory() {
+    [[maybe_unused]] static const bool bound = (QImageReader::setAllocationLimit(AllocationLimit), true);
 }
 
 bool IsTurned(const QImageReader& reader) {
@@ -90,11 +99,11 @@ bool IsTooLarge(QIODevice& file, const QByteArray& format, QSize size) {
 
 Picture Read(const QString& path, const std::function<QSize(QSize)>& wanted,
              const std::atomic<bool>* stopped) {
-    StoppableFile file(Files::ToSystem(path), stopped);
-    if (!file.open(QIODevice::ReadOnly)) return {};
+    StoppableFile file(path, stopped);
+    if (!file.Open()) return {};
     const QByteArray format = FormatOf(file);
     if (format.isEmpty()) return {};
-    QImageReader::setAllocationLimit(AllocationLimit);
+    BoundMemory();
     QImageReader reader(&file, format);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
@@ -108,8 +117,8 @@ Picture Read(const QString& path, const std::function<QSize(QSize)>& wanted,
 }
 
 QSize SizeOf(const QString& path) {
-    StoppableFile file(Files::ToSystem(path), nullptr);
-    if (!file.open(QIODevice::ReadOnly)) return {};
+    StoppableFile file(path, nullptr);
+    if (!file.Open()) return {};
     const QByteArray format = FormatOf(file);
     if (format.isEmpty()) return {};
     QImageReader reader(&file, format);

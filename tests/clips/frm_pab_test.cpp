@@ -19,16 +19,13 @@ using Dialogs::Answer;
 class FrmPabTest : public ProgramTest {
     Q_OBJECT
 
-    // An animated GIF of two frames, one pixel each, on a screen of that size.
+    // An animated GIF of two frames that fill the picture, of which little more than a pixel is told.
     static QByteArray Gif(int width, int height) {
-        QByteArray gif("GIF89a");
-        for (const int length : {width, height}) gif += char(length & 255), gif += char(length >> 8);
-        gif += QByteArray::fromHex("800000ff0000ffffff");
-        for (int i = 0; i < 2; ++i) {
-            gif += QByteArray::fromHex("21f904000a000000");
-            gif += QByteArray::fromHex("2c0000000001000100000202") + QByteArray::fromHex("440100");
-        }
-        return gif + ';';
+        QByteArray size;
+        for (const int length : {width, height}) size.append(char(length & 255)).append(char(length >> 8));
+        const QByteArray frame = QByteArray::fromHex("21f904000a000000") + QByteArray::fromHex("2c00000000") +
+                                 size + QByteArray::fromHex("000202440100");
+        return "GIF89a" + size + QByteArray::fromHex("800000ff0000ffffff") + frame + frame + ';';
     }
     static QByteArray Picture(int width, int height, const char* format, QColor color = Qt::red) {
         QImage image(width, height, QImage::Format_RGB32);
@@ -256,14 +253,17 @@ private slots:
         m_folder->Write(u"pageartbox/B/c leer.gif"_s, "");
         m_folder->Write(u"pageartbox/B/d kurz.jpg"_s, jpg.first(jpg.size() / 3));
         m_folder->Write(u"pageartbox/B/e riesig.jpg"_s, huge);
+        huge.replace(frame, 9, QByteArray::fromHex("ffc200110827102710")); // 10000 x 10000, progressive
+        m_folder->Write(u"pageartbox/B/e stufen.jpg"_s, huge);
         m_folder->Write(u"pageartbox/B/f weit.gif"_s, Gif(16000, 16000));
         m_folder->Write(u"pageartbox/B/g.png"_s, Picture(80, 80, "png", Qt::green));
         m_folder->Write(u"pageartbox/B/h.svg"_s,
                         "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
+        QFile::link(u"/dev/zero"_s, m_folder->System(u"pageartbox/B/ohne ende.gif"_s));
         QFile::link(m_folder->System(u"pageartbox/B/i.gif"_s), m_folder->System(u"pageartbox/B/i.gif"_s));
         Open();
         ChooseFolder(u"B"_s, true);
-        QCOMPARE(Sheet().Count(), 8);
+        QCOMPARE(Sheet().Count(), 10);
         const QImage shown = Sheet().grab().toImage();
         const auto colorAt = [&](qsizetype index) {
             const QRect frame64 = ClipSheet::Frame(index);
@@ -273,13 +273,13 @@ private slots:
         QVERIFY(colorAt(1).blue() > 200 && colorAt(1).red() < 60);
         // the last good one, faded
         QVERIFY(colorAt(2).red() > 120 && colorAt(2).red() < 240 && colorAt(2).blue() > 240);
-        QVERIFY(colorAt(7).green() > 240 && colorAt(7).red() > 120);
+        QVERIFY(colorAt(8).green() > 240 && colorAt(8).red() > 120);
         const QString failure =
             u"Die Vorschau kann nicht gestartet werden, da\r\neine notwendige Datei nicht richtig "
             u"registriert "
             "ist.\r\nWarscheinlich sind Sie nicht als Administartor\r\nangemeldet oder haben nicht die "
             "Berechtigung\r\ndiese Datei zu benutzen."_s;
-        for (const qsizetype index : {0, 2, 4, 5}) {
+        for (const qsizetype index : {0, 2, 4, 5, 9, 6}) {
             m_dialogs->ExpectMessage(u"Vorschau"_s, failure);
             ClickClip(index, Qt::RightButton);
             QVERIFY(!Loaded<Frm_PABPreView>());
