@@ -181,10 +181,11 @@ Sheets::Result Frm_Print::PrintOnPrinter(const PageText::Request& request,
                                          const std::function<bool()>& wanted) {
     QPrinter printer(SystemPrinter(), QPrinter::HighResolution);
     printer.setDocName(PageText::NameOf(Global::CurrentFile));
-    printer.setFullPage(false);
-    const Sheets::Result result = PrintOn(printer, request, wanted);
-    if (result == Sheets::Result::Printed) return result;
-    printer.abort();
+    const Sheets::Result result = PrintOn(printer, request, [&] {
+        if (wanted()) return true;
+        printer.abort(); // before the painting ends; CUPS prints the sheets so far all the same
+        return false;
+    });
     if (result == Sheets::Result::Failed) {
         Dialogs::Tell(u"Drucken"_s, u"Der Drucker nimmt den Text nicht an."_s, Dialogs::Icon::Critical);
     }

@@ -34,6 +34,11 @@ public:
     Typesetter(QPagedPaintDevice& device, const SyntaxSpans::ColouredText& text, double points)
         : m_device(device), m_text(text), m_font(TextFormats::Font(points)), m_metrics(m_font, &device),
           m_footFont(TextFormats::Font(FootPoints)) {
+        for (const bool bold : {false, true}) {
+            QFont font = m_font;
+            font.setBold(bold);
+            m_column = std::max(m_column, QFontMetricsF(font, &device).maxWidth());
+        }
         m_option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         m_option.setTextDirection(Qt::LeftToRight);
         // counted in dots of the screen on every device
@@ -88,6 +93,12 @@ private:
         return static_cast<size_t>(std::max(1.0, (m_device.height() - foot) / m_metrics.lineSpacing()));
     }
 
+    // Whether `line` is surely no wider than the paper: the most lines need not be laid out to know that.
+    bool Fits(QStringView line) const {
+        return double(line.size()) * m_column <= m_device.width() &&
+               std::all_of(line.begin(), line.end(), [](QChar c) { return c >= u' ' && c < u'\u0180'; });
+    }
+
     void Prepare(QTextLayout& layout, qsizetype start, qsizetype length, TextFormats::Lines& formats) const {
         layout.setText(m_text.text.sliced(start, length));
         layout.setFont(QFont(m_font, &m_device));
@@ -100,6 +111,10 @@ private:
         const qsizetype length = std::min(end - start, LongestPiece);
         if (length == 0) {
             m_lines.push_back({start, 0});
+            return end;
+        }
+        if (start + length == end && Fits(QStringView(m_text.text).sliced(start, length))) {
+            m_lines.push_back({start, length});
             return end;
         }
         QTextLayout layout;
@@ -123,6 +138,7 @@ private:
     const QFont m_font;
     const QFontMetricsF m_metrics;
     const QFont m_footFont;
+    double m_column = 0; // of the widest character
     QTextOption m_option;
     std::vector<Line> m_lines;
 };

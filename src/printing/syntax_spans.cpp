@@ -31,14 +31,15 @@ private:
 
 // A tag from `start` to its ">" at `end` - 1: blue, and its name, up to the first blank, bold.
 void AddTag(Spans& spans, qsizetype start, qsizetype nameEnd, qsizetype end) {
-    spans.push_back({start, 1, Colour::Tag});
+    spans.emplace_back(start, 1, Colour::Tag);
     const qsizetype name = nameEnd - start - 1;
-    if (name > 0) spans.push_back({start + 1, name, Colour::Tag, true});
-    spans.push_back({nameEnd, end - nameEnd, Colour::Tag});
+    if (name > 0) spans.emplace_back(start + 1, name, Colour::Tag, true);
+    spans.emplace_back(nameEnd, end - nameEnd, Colour::Tag);
 }
 
 std::optional<Spans> TagPass(QStringView text, qsizetype head, const Half& half) {
     Spans spans;
+    spans.reserve(3 * text.count(u'<'));
     Text::Finder opening(text, u"<");
     Text::Finder closing(text, u">");
     Text::Finder blank(text, u" ");
@@ -50,7 +51,7 @@ std::optional<Spans> TagPass(QStringView text, qsizetype head, const Half& half)
         if (text.sliced(open - 1).startsWith(u"<!--")) {
             const qsizetype hit = commentEnd.From(open);
             const qsizetype end = hit ? hit + 2 : text.size();
-            spans.push_back({open - 1, end - open + 1, Colour::Comment, false, true});
+            spans.emplace_back(open - 1, end - open + 1, Colour::Comment, false, true);
             i = end + 1;
             continue;
         }
@@ -68,6 +69,7 @@ std::optional<Spans> TagPass(QStringView text, qsizetype head, const Half& half)
 
 std::optional<Spans> StringPass(QStringView text, qsizetype head, const Half& half) {
     Spans spans;
+    spans.reserve(text.count(u'"') / 2 + 1);
     Text::Finder quote(text, u"\"");
     for (qsizetype i = head + 1; i <= text.size();) { // one-based
         const qsizetype begin = quote.From(i);
@@ -75,14 +77,14 @@ std::optional<Spans> StringPass(QStringView text, qsizetype head, const Half& ha
         if (!half.GoesOn(begin)) return std::nullopt;
         const qsizetype next = quote.From(begin + 1);
         const qsizetype end = next ? next : text.size();
-        spans.push_back({begin - 1, end - begin + 1, Colour::String});
+        spans.emplace_back(begin - 1, end - begin + 1, Colour::String);
         i = end + 2; // a quote straight behind the closing one begins nothing; that is meant
     }
     // Such a quote may be the last one of an odd number, which reaches to the end all the same.
     const QStringView behind = text.sliced(std::min(head, text.size()));
     if (behind.count(u'"') % 2 == 0) return spans;
     const qsizetype last = std::max(text.lastIndexOf(u'"'), spans.back().End());
-    if (last < text.size()) spans.push_back({last, text.size() - last, Colour::String});
+    if (last < text.size()) spans.emplace_back(last, text.size() - last, Colour::String);
     return spans;
 }
 
@@ -95,14 +97,15 @@ Spans Merged(const Spans& tags, const Spans& strings) {
     auto string = strings.begin();
     qsizetype at = 0;
     while (tag != tags.end() || string != strings.end()) {
-        const qsizetype tagStart = tag == tags.end() ? Never : std::max(tag->start, at);
-        const qsizetype stringStart = string == strings.end() ? Never : std::max(string->start, at);
+        const qsizetype tagStart = tag == tags.end() ? Never : std::max<qsizetype>(tag->start, at);
+        const qsizetype stringStart =
+            string == strings.end() ? Never : std::max<qsizetype>(string->start, at);
         at = std::min(tagStart, stringStart);
         const bool inTag = tagStart == at;
         const bool inString = stringStart == at;
         const qsizetype end = std::min(inTag ? tag->End() : tagStart, inString ? string->End() : stringStart);
-        all.push_back({at, end - at, inString ? Colour::String : tag->colour, inTag && tag->bold,
-                       inTag && tag->italic});
+        all.emplace_back(at, end - at, inString ? Colour::String : tag->colour, inTag && tag->bold,
+                         inTag && tag->italic);
         at = end;
         if (tag != tags.end() && tag->End() <= at) ++tag;
         if (string != strings.end() && string->End() <= at) ++string;

@@ -12,14 +12,18 @@ namespace SyntaxSpans {
 // Red, green and blue of what is coloured, as 0xRRGGBB.
 enum class Colour : unsigned { Text = 0x000000, Comment = 0xC0C0C0, Tag = 0x0000C0, String = 0x808000 };
 
+// Small, since a page holds many of them.
 struct Span {
-    qsizetype start = 0; // in characters, from 0
-    qsizetype length = 0;
-    Colour colour = Colour::Text;
-    bool bold = false;
-    bool italic = false;
-    qsizetype End() const { return start + length; }
-    bool operator==(const Span&) const = default;
+    Span(qsizetype from, qsizetype characters, Colour in, bool isBold = false, bool isItalic = false)
+        : start(static_cast<int>(from)), length(static_cast<int>(characters)), colour(in), bold(isBold),
+          italic(isItalic) {}
+    qsizetype End() const { return qsizetype(start) + length; }
+
+    int start; // in characters, from 0
+    int length;
+    Colour colour;
+    bool bold;
+    bool italic;
 };
 
 // A text with its colours: spans in their order, none over another. What lies between them is plain and

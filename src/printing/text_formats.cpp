@@ -32,7 +32,7 @@ QList<QTextLayout::FormatRange> Lines::Of(qsizetype start, qsizetype length) {
     while (m_next < m_spans.size() && m_spans[m_next].End() <= start) ++m_next;
     QList<QTextLayout::FormatRange> formats;
     for (size_t i = m_next; i < m_spans.size() && m_spans[i].start < start + length; ++i) {
-        const qsizetype from = std::max(m_spans[i].start, start);
+        const qsizetype from = std::max<qsizetype>(m_spans[i].start, start);
         const qsizetype to = std::min(m_spans[i].End(), start + length);
         formats.append({static_cast<int>(from - start), static_cast<int>(to - from), FormatOf(m_spans[i])});
     }

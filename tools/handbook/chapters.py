@@ -28,6 +28,7 @@ CHAPTERS = [
     ("debugger.htm", "Debugger"),
     ("projekt.htm", "ProjektManager"),
     ("vorschau.htm", "Vorschau und Navigationsleiste"),
+    ("drucken.htm", "Drucken und Syntaxfarben"),
     ("fenster.htm", "Ansicht und Fenster"),
     ("assistent.htm", "Assistent und Hilfe"),
     ("update.htm", "Updates"),
